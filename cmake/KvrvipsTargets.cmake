@@ -1,0 +1,55 @@
+# Shared compile settings and the helpers that make one static library per
+# source folder and one test program per test folder.
+
+add_library(kvrvips_options INTERFACE)
+target_include_directories(kvrvips_options INTERFACE
+  ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/include)
+target_compile_options(kvrvips_options INTERFACE
+  -Wall -Wextra -Wpedantic -Wno-missing-field-initializers
+  $<$<BOOL:${KVRVIPS_WERROR}>:-Werror>)
+# Only the exported function leaves the shared library.
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_C_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+
+if(KVRVIPS_SANITIZE)
+  set(kvrvips_sanitize_flags -fsanitize=address,undefined -fno-sanitize-recover=all
+      -fno-omit-frame-pointer)
+  target_compile_options(kvrvips_options INTERFACE ${kvrvips_sanitize_flags})
+  target_link_options(kvrvips_options INTERFACE ${kvrvips_sanitize_flags})
+endif()
+
+# kvrvips_add_folder(<folder>): adds the folder's own CMakeLists.txt when it
+# has one.
+function(kvrvips_add_folder folder)
+  if(EXISTS ${PROJECT_SOURCE_DIR}/${folder}/CMakeLists.txt)
+    add_subdirectory(${folder})
+  endif()
+endfunction()
+
+# kvrvips_folder_library(<target> [DEPENDS <targets>...]): a static library of
+# every .cpp file of the calling folder (not of its subfolders).
+function(kvrvips_folder_library target)
+  cmake_parse_arguments(ARG "" "" "DEPENDS" ${ARGN})
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
+  add_library(${target} STATIC ${sources})
+  target_link_libraries(${target} PUBLIC kvrvips_options ${ARG_DEPENDS})
+endfunction()
+
+# kvrvips_test_suite(<name> [DEPENDS <targets>...]): one GoogleTest program of
+# every .cpp file of the calling test folder, registered with CTest.
+function(kvrvips_test_suite name)
+  cmake_parse_arguments(ARG "" "" "DEPENDS" ${ARGN})
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
+  if(NOT sources)
+    return()
+  endif()
+  add_executable(${name} ${sources})
+  target_link_libraries(${name} PRIVATE kvrvips_options ${ARG_DEPENDS}
+    GTest::gtest GTest::gmock GTest::gtest_main)
+  target_compile_definitions(${name} PRIVATE
+    KVRVIPS_TEST_DATA_DIR="${PROJECT_SOURCE_DIR}/tests/data"
+    KVRVIPS_BINARY_DIR="${PROJECT_BINARY_DIR}")
+  gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST
+    WORKING_DIRECTORY ${CMAKE_CURRENT_BINARY_DIR})
+endfunction()
