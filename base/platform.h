@@ -121,6 +121,9 @@ bool boPlatformIsDirectory(const char* path);
 bool boPlatformDeleteFile(const char* path);
 // Moves a file, replacing the target; across file systems it copies.
 bool boPlatformMoveFile(const char* from, const char* to);
+// true when the two paths name one file: the same file of the system when
+// both exist, else the same full path.
+bool boPlatformSameFile(const char* a, const char* b);
 // Creates the missing folders of `directory`, the last one included.
 bool boPlatformCreateDirectories(const char* directory);
 // Creates a new, empty file `<directory>/<prefix>XXXXXX` with a unique name
@@ -129,6 +132,10 @@ bool boPlatformCreateTempFile(const char* directory, const char* prefix, char* o
                               size_t size);
 
 // ---- Paths and folders -----------------------------------------------------------
+
+// The separator of the platform's own paths; where it is '/', a path that
+// starts with it is absolute.
+char cPlatformPathSeparator();
 
 // The current directory; false with `out` empty when it does not fit.
 bool boPlatformCurrentDirectory(char* out, size_t size);

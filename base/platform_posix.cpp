@@ -169,7 +169,7 @@ char cPlatformDecimalSign() { return '.'; }
 bool boPlatformLocalTime(PlatformDateTime* out) {
   struct timespec now;
   struct tm local;
-  if (clock_gettime(CLOCK_REALTIME, &now) != 0 || !localtime_r(&now.tv_sec, &local)) {
+  if (!out || clock_gettime(CLOCK_REALTIME, &now) != 0 || !localtime_r(&now.tv_sec, &local)) {
     return false;
   }
   *out = {local.tm_year + 1900, local.tm_mon + 1, local.tm_mday,
@@ -211,8 +211,13 @@ bool boPlatformErrorText(int code, char* out, size_t size) {
   if (!out || size == 0) return false;
   out[0] = 0;
   char buffer[256];
-  // The GNU form returns the text, which may or may not be the buffer.
-  const char* text = strerror_r(code, buffer, sizeof buffer);
+  // The sharing violation keeps the original platform's number, which is a
+  // broken pipe here; files never raise that, so the number gets the
+  // sharing violation's wording. The GNU form of strerror_r returns the
+  // text, which may or may not be the buffer.
+  const char* text = code == kPlatformSharingViolation
+                         ? "The file is being used by another process"
+                         : strerror_r(code, buffer, sizeof buffer);
   if (!text || !*text) return false;
   size_t length = std::strlen(text);
   while (length > 0 && (text[length - 1] == '\r' || text[length - 1] == '\n' ||
@@ -238,13 +243,20 @@ PlatformFile hPlatformFileOpen(const char* path, PlatformOpenMode mode, bool exc
   switch (mode) {
     case PlatformOpenMode::kReadExisting: flags |= O_RDONLY; break;
     case PlatformOpenMode::kReadWriteAlways: flags |= O_RDWR | O_CREAT; break;
-    case PlatformOpenMode::kReadWriteCreate: flags |= O_RDWR | O_CREAT | O_TRUNC; break;
+    case PlatformOpenMode::kReadWriteCreate: flags |= O_RDWR | O_CREAT; break;
   }
   int fd = open(path, flags, 0666);
   if (fd < 0) return fail(errno);
   // A file held by another writer is the sharing violation of the original.
   if (exclusive && flock(fd, LOCK_EX | LOCK_NB) != 0) {
     int error = errno == EWOULDBLOCK ? kPlatformSharingViolation : errno;
+    close(fd);
+    return fail(error);
+  }
+  // Emptied only once the lock is had, so that a file that someone else
+  // holds keeps its content.
+  if (mode == PlatformOpenMode::kReadWriteCreate && ftruncate(fd, 0) != 0) {
+    int error = errno;
     close(fd);
     return fail(error);
   }
@@ -329,6 +341,17 @@ bool boPlatformMoveFile(const char* from, const char* to) {
   return unlink(from) == 0;
 }
 
+bool boPlatformSameFile(const char* a, const char* b) {
+  if (!a || !b || !*a || !*b) return false;
+  struct stat first, second;
+  if (stat(a, &first) == 0 && stat(b, &second) == 0) {
+    return first.st_dev == second.st_dev && first.st_ino == second.st_ino;
+  }
+  char fullA[4096], fullB[4096];
+  return boPlatformFullPath(a, fullA, sizeof fullA) && boPlatformFullPath(b, fullB, sizeof fullB) &&
+         std::strcmp(fullA, fullB) == 0;
+}
+
 bool boPlatformCreateDirectories(const char* directory) {
   if (!directory || !*directory) return false;
   std::string path(directory);
@@ -344,18 +367,31 @@ bool boPlatformCreateTempFile(const char* directory, const char* prefix, char* o
                               size_t size) {
   if (!out || size == 0) return false;
   out[0] = 0;
-  std::string pattern = directory && *directory ? directory : ".";
-  if (pattern.back() != '/') pattern += '/';
-  pattern += prefix ? prefix : "";
-  pattern += "XXXXXX";
-  std::vector<char> name(pattern.begin(), pattern.end());
-  name.push_back(0);
-  int fd = mkstemp(name.data());
+  std::string name = directory && *directory ? directory : ".";
+  if (name.back() != '/') name += '/';
+  name += prefix ? prefix : "";
+  // Not mkstemp: it makes the file private to the user, and a save puts this
+  // file in the place of a model file that others read. With O_EXCL the name
+  // is still unique and the file gets the usual permissions.
+  static constexpr char kLetters[] =
+      "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789";
+  static std::atomic<uint64_t> sequence{0};
+  size_t stemLength = name.size();
+  int fd = -1;
+  for (int attempt = 0; attempt < 1000 && fd < 0; ++attempt) {
+    uint64_t value = ((sequence.fetch_add(1) + 1) * 0x9E3779B97F4A7C15ULL) ^
+                     static_cast<uint64_t>(lPlatformFileTimeNow()) ^
+                     (static_cast<uint64_t>(getpid()) << 40);
+    name.resize(stemLength);
+    for (int i = 0; i < 6; ++i, value /= 62) name += kLetters[value % 62];
+    fd = open(name.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+    if (fd < 0 && errno != EEXIST) return false;
+  }
   if (fd < 0) return false;
   close(fd);
   char full[4096];
-  if (!boPlatformFullPath(name.data(), full, sizeof full) || !boCopyOut(full, out, size)) {
-    unlink(name.data());
+  if (!boPlatformFullPath(name.c_str(), full, sizeof full) || !boCopyOut(full, out, size)) {
+    unlink(name.c_str());
     out[0] = 0;
     return false;
   }
@@ -363,6 +399,8 @@ bool boPlatformCreateTempFile(const char* directory, const char* prefix, char* o
 }
 
 // ---- Paths and folders ----
+
+char cPlatformPathSeparator() { return '/'; }
 
 bool boPlatformCurrentDirectory(char* out, size_t size) {
   if (!out || size == 0) return false;
@@ -488,7 +526,7 @@ void vPlatformClipboardSet(const void* data, size_t size) {
 
 size_t uPlatformClipboardGet(void* out, size_t capacity) {
   std::lock_guard<std::mutex> hold(clipboardLock);
-  if (out && capacity) {
+  if (out && capacity && !clipboardBytes.empty()) {
     std::memcpy(out, clipboardBytes.data(), std::min(capacity, clipboardBytes.size()));
   }
   return clipboardBytes.size();

@@ -1,0 +1,134 @@
+#include <gtest/gtest.h>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+
+#include <cstdio>
+#include <cstring>
+#include <filesystem>
+#include <string>
+
+#include "base/clipboard_file.h"
+#include "base/file_names.h"
+#include "base/file_times.h"
+#include "base/platform.h"
+#include "base/temp_files.h"
+#include "scratch_folder.h"
+
+namespace {
+
+TEST(FileNames, ValidNames) {
+  for (const char* refused : {"", "nul.txt", "Com1", "lpt9.a.b", "AUX", "a.", "a ", "a:b", "a\\b",
+                              "a/b", "a\"b", "a<b", "a>b", "a|b", "a?b", "a*b", "a\x1F" "b"}) {
+    EXPECT_FALSE(boFileNameValid(refused)) << refused;
+  }
+  EXPECT_FALSE(boFileNameValid(nullptr));
+  for (const char* accepted : {"COM10", "console", "nul_.txt", ".hidden", "road model.sfi",
+                               "Gr\xF8" "ft.sfi", "a.b.c"}) {
+    EXPECT_TRUE(boFileNameValid(accepted)) << accepted;
+  }
+}
+
+TEST(FileNames, PathNamesAreCheckedOneByOne) {
+  EXPECT_TRUE(boPathNamesValid("/tmp/x/./../road.sfi~"));
+  EXPECT_TRUE(boPathNamesValid("c:\\work\\road.sfi"));
+  EXPECT_TRUE(boPathNamesValid("relative//road.sfi"));
+  EXPECT_FALSE(boPathNamesValid("/tmp/a:b/road.sfi"));
+  EXPECT_FALSE(boPathNamesValid("/tmp/con/road.sfi"));
+  EXPECT_FALSE(boPathNamesValid("/tmp/road.sfi."));
+  EXPECT_FALSE(boPathNamesValid(""));
+  EXPECT_FALSE(boPathNamesValid(nullptr));
+}
+
+TEST(FileNames, SanitiseTakesOutWhatIsRefused) {
+  EXPECT_STREQ(sFileNameSanitise("a<b>:c?.txt"), "abc.txt");
+  EXPECT_STREQ(sFileNameSanitise("tab\there"), "tabhere");
+  EXPECT_STREQ(sFileNameSanitise("name. . "), "name");
+  EXPECT_STREQ(sFileNameSanitise("nul.txt"), "nul_.txt");
+  EXPECT_STREQ(sFileNameSanitise("com1"), "com1_");
+  EXPECT_STREQ(sFileNameSanitise("LPT1."), "LPT1_");
+  EXPECT_STREQ(sFileNameSanitise("c|on"), "con_");
+  EXPECT_STREQ(sFileNameSanitise("COM10"), "COM10");
+  EXPECT_STREQ(sFileNameSanitise("?*"), "");
+  EXPECT_STREQ(sFileNameSanitise(nullptr), "");
+}
+
+class TempFilesTest : public ::testing::Test {
+ protected:
+  void TearDown() override { vTempUseSystemFolder(false); }
+  ScratchFolder folder_;
+};
+
+TEST_F(TempFilesTest, TempFileIsMadeBesideThePath) {
+  std::string target = folder_ / "road.sfi";
+  std::string first = sTempFileNear(target.c_str(), false);
+  std::string second = sTempFileNear(target.c_str(), false);
+  std::string expectedStart = folder_ / "$$$_";
+  EXPECT_EQ(first.compare(0, expectedStart.size(), expectedStart), 0) << first;
+  EXPECT_NE(first, second);
+  EXPECT_TRUE(boPlatformFileExists(first.c_str()));
+  EXPECT_EQ(sReadWholeFile(first), "");
+
+  // It takes the place of a model file, so it has the usual permissions.
+  mode_t mask = umask(0);
+  umask(mask);
+  struct stat status;
+  ASSERT_EQ(stat(first.c_str(), &status), 0);
+  EXPECT_EQ(status.st_mode & 0777, 0666 & ~mask);
+}
+
+TEST_F(TempFilesTest, SystemFolderOnlyWhenAllowed) {
+  EXPECT_STREQ(sTempFileNear("/x/road.sfi", true), "");
+  vTempUseSystemFolder(true);
+  char system[257];
+  ASSERT_TRUE(boPlatformTempDirectory(system, sizeof system));
+  std::string made = sTempFileNear("/x/road.sfi", true);
+  EXPECT_EQ(made.compare(0, std::strlen(system) + 4, std::string(system) + "$$$_"), 0) << made;
+  EXPECT_TRUE(boPlatformFileExists(made.c_str()));
+  std::remove(made.c_str());
+}
+
+TEST_F(TempFilesTest, UnusableFolderGivesTheEmptyText) {
+  // A plain file where the folder should be cannot take a file, even for root.
+  std::string plain = folder_ / "plain";
+  vWriteWholeFile(plain, "x");
+  EXPECT_STREQ(sTempFileNear((plain + "/road.sfi").c_str(), false), "");
+  EXPECT_STREQ(sTempFileNear((folder_ / "missing/road.sfi").c_str(), false), "");
+}
+
+TEST(FileTimes, WriteTimeOfAFile) {
+  ScratchFolder folder;
+  std::string path = folder / "road.sfi";
+  int64_t time = 0;
+  EXPECT_FALSE(boFileGetTime(path.c_str(), &time));
+  vWriteWholeFile(path, "x");
+
+  // 2001-09-09 01:46:40 UTC: 10^9 seconds after 1970.
+  struct timespec times[2] = {{1000000000, 0}, {1000000000, 0}};
+  ASSERT_EQ(utimensat(AT_FDCWD, path.c_str(), times, 0), 0);
+  ASSERT_TRUE(boFileGetTime(path.c_str(), &time));
+  EXPECT_EQ(time, (1000000000LL + 11644473600LL) * 10000000LL);
+  EXPECT_TRUE(boFileGetTime(path.c_str(), nullptr));
+  EXPECT_EQ(iFileTimeCompare(time, lFileTimeNow()), -1);
+  EXPECT_EQ(iFileTimeCompare(time, time), 0);
+  EXPECT_EQ(iFileTimeCompare(time + 1, time), 1);
+}
+
+TEST(ClipboardFile, AppendsTheTextWithoutTerminator) {
+  ScratchFolder folder;
+  std::string path = folder / "clip.txt";
+  vPlatformClipboardClear();
+  vClipboardCopyToFile(path.c_str());
+  EXPECT_FALSE(boPlatformFileExists(path.c_str()));
+
+  vWriteWholeFile(path, "x");
+  vPlatformClipboardSet("abc", 3);
+  vClipboardCopyToFile(path.c_str());
+  vPlatformClipboardSet("de\0zz", 5);
+  vClipboardCopyToFile(path.c_str());
+  EXPECT_EQ(sReadWholeFile(path), "xabcde");
+  vPlatformClipboardClear();
+  vClipboardCopyToFile(nullptr);
+}
+
+}  // namespace

@@ -1,0 +1,159 @@
+#include "base/platform.h"
+
+#include <gtest/gtest.h>
+
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdint>
+#include <cstring>
+#include <string>
+
+#include "base/process_runner.h"
+#include "base/system_error.h"
+#include "scratch_folder.h"
+
+namespace {
+
+// The number of arguments that the helper program saw.
+std::string sArgumentCountOf(const std::string& commandTail, int* outExitCode) {
+  ScratchFolder folder;
+  std::string countFile = folder / "count";
+  *outExitCode = iRunProcess((std::string(KVRVIPS_EXIT_WITH) + " 0 " + countFile + commandTail).c_str());
+  return sReadWholeFile(countFile);
+}
+
+TEST(RunProcess, ExitCodesAndFailuresToStart) {
+  EXPECT_EQ(iRunProcess(KVRVIPS_EXIT_WITH " 3"), 3);
+  EXPECT_EQ(iRunProcess("/no/such/program 1"), kRunProcessNotStarted);
+  EXPECT_EQ(iRunProcess("kvrvips_no_such_program_anywhere"), kRunProcessNotStarted);
+  EXPECT_EQ(iRunProcess(""), kRunProcessNotStarted);
+  EXPECT_EQ(iRunProcess("   "), kRunProcessNotStarted);
+  EXPECT_EQ(iRunProcess(nullptr), kRunProcessNotStarted);
+}
+
+TEST(RunProcess, CommandLineIsSplitAtBlanksAndCut) {
+  int exitCode = -1;
+  // "0", the count file, and a path with blanks that falls apart in three.
+  EXPECT_EQ(sArgumentCountOf(" /work/my road  model.gen", &exitCode), "5");
+  EXPECT_EQ(exitCode, 0);
+
+  // Only the first 2000 characters of the line are used.
+  std::string head = std::string(KVRVIPS_EXIT_WITH) + " 0 ";
+  ScratchFolder folder;
+  std::string countFile = folder / "count";
+  std::string line = head + countFile;
+  size_t wordsWithin = 0;
+  while (line.size() + 2 <= 2000) {
+    line += " x";
+    ++wordsWithin;
+  }
+  std::string overlong = line + std::string(500, 'y') + " z z z";
+  EXPECT_EQ(iRunProcess(overlong.c_str()), 0);
+  // The cut glues a run of 'y' to the last 'x'; nothing behind it arrives.
+  EXPECT_EQ(sReadWholeFile(countFile), std::to_string(2 + wordsWithin));
+}
+
+TEST(CodePage, NorwegianLettersAndTheEuroGoBothWays) {
+  const char16_t wide[] = u"\u00C6\u00D8\u00C5\u00E6\u00F8\u00E5 \u20AC";
+  char narrow[16];
+  EXPECT_EQ(uPlatformWideToAnsi(wide, narrow, sizeof narrow), 8u);
+  EXPECT_STREQ(narrow, "\xC6\xD8\xC5\xE6\xF8\xE5 \x80");
+  char16_t back[16];
+  EXPECT_EQ(uPlatformAnsiToWide(narrow, back, 16), 8u);
+  EXPECT_EQ(std::u16string(back), std::u16string(wide));
+
+  // Outside the code page: a letter, a symbol and a character beyond 16 bits.
+  EXPECT_EQ(uPlatformWideToAnsi(u"a\u0100b\u2603c\U0001F600d", narrow, sizeof narrow), 7u);
+  EXPECT_STREQ(narrow, "a?b?c?d");
+  // Cut to the room given, always terminated.
+  EXPECT_EQ(uPlatformWideToAnsi(wide, narrow, 4), 3u);
+  EXPECT_STREQ(narrow, "\xC6\xD8\xC5");
+  EXPECT_EQ(uPlatformAnsiToWide(nullptr, back, 16), 0u);
+}
+
+TEST(CodePage, CompareIgnoresTheCaseOfNorwegianLetters) {
+  EXPECT_EQ(iPlatformCompareNoCase("\xC6\xD8\xC5", "\xE6\xF8\xE5", SIZE_MAX), 0);
+  EXPECT_EQ(iPlatformCompareNoCase("Veg", "vEG", SIZE_MAX), 0);
+  EXPECT_LT(iPlatformCompareNoCase("a", "B", SIZE_MAX), 0);
+  EXPECT_EQ(iPlatformCompareNoCase("abX", "ABy", 2), 0);
+  EXPECT_NE(iPlatformCompareNoCase("\xDF", "\xFF", SIZE_MAX), 0);  // sharp s has no capital
+}
+
+TEST(Paths, FullPathResolvesPointsByText) {
+  ScratchFolder folder;
+  char former[4096];
+  ASSERT_TRUE(boPlatformCurrentDirectory(former, sizeof former));
+  ASSERT_TRUE(boPlatformChangeDirectory(folder.path().c_str()));
+  char here[4096];
+  ASSERT_TRUE(boPlatformCurrentDirectory(here, sizeof here));
+  std::string current = here;
+  std::string parent = current.substr(0, current.rfind('/'));
+
+  char full[4096];
+  EXPECT_TRUE(boPlatformFullPath(".", full, sizeof full));
+  EXPECT_EQ(std::string(full), current);
+  EXPECT_TRUE(boPlatformFullPath("..", full, sizeof full));
+  EXPECT_EQ(std::string(full), parent);
+  EXPECT_TRUE(boPlatformFullPath("a/./b/../c.sfi", full, sizeof full));
+  EXPECT_EQ(std::string(full), current + "/a/c.sfi");
+  EXPECT_TRUE(boPlatformFullPath("/../x/", full, sizeof full));
+  EXPECT_STREQ(full, "/x/");
+  EXPECT_FALSE(boPlatformFullPath("a", full, 3));
+  EXPECT_STREQ(full, "");
+
+  ASSERT_TRUE(boPlatformChangeDirectory(former));
+}
+
+TEST(Files, ExclusiveOpenKeepsOtherWritersOut) {
+  ScratchFolder folder;
+  std::string path = folder / "held.sfi";
+  vWriteWholeFile(path, "content");
+  int error = 0;
+  PlatformFile held = hPlatformFileOpen(path.c_str(), PlatformOpenMode::kReadWriteAlways, true, &error);
+  ASSERT_NE(held, kPlatformNoFile);
+
+  EXPECT_EQ(hPlatformFileOpen(path.c_str(), PlatformOpenMode::kReadWriteAlways, true, &error),
+            kPlatformNoFile);
+  EXPECT_EQ(error, kPlatformSharingViolation);
+  // Making the file anew must not empty it while it is held.
+  EXPECT_EQ(hPlatformFileOpen(path.c_str(), PlatformOpenMode::kReadWriteCreate, true, &error),
+            kPlatformNoFile);
+  EXPECT_EQ(sReadWholeFile(path), "content");
+  // Readers that share are let in.
+  PlatformFile reader = hPlatformFileOpen(path.c_str(), PlatformOpenMode::kReadExisting, false, &error);
+  EXPECT_NE(reader, kPlatformNoFile);
+  boPlatformFileClose(reader);
+
+  EXPECT_TRUE(boPlatformFileClose(held));
+  PlatformFile again = hPlatformFileOpen(path.c_str(), PlatformOpenMode::kReadWriteCreate, true, &error);
+  ASSERT_NE(again, kPlatformNoFile);
+  boPlatformFileClose(again);
+  EXPECT_EQ(sReadWholeFile(path), "");
+}
+
+TEST(Files, SameFileByIdentityOrByFullPath) {
+  ScratchFolder folder;
+  std::string path = folder / "a.sfi";
+  vWriteWholeFile(path, "x");
+  EXPECT_TRUE(boPlatformSameFile(path.c_str(), (folder / "./a.sfi").c_str()));
+  EXPECT_TRUE(boPlatformSameFile((folder / "n.sfi").c_str(), (folder / "sub/../n.sfi").c_str()));
+  EXPECT_FALSE(boPlatformSameFile(path.c_str(), (folder / "A.sfi").c_str()));
+  EXPECT_FALSE(boPlatformSameFile(path.c_str(), nullptr));
+}
+
+TEST(SystemErrors, TextsOfCodes) {
+  char text[256];
+  EXPECT_TRUE(boSystemErrorText(ENOENT, text, sizeof text));
+  EXPECT_STREQ(text, std::strerror(ENOENT));
+  // The sharing violation speaks of the file in use, not of its number's
+  // other meaning on this system.
+  EXPECT_TRUE(boSystemErrorText(kPlatformSharingViolation, text, sizeof text));
+  EXPECT_STREQ(text, "The file is being used by another process");
+  char small[5];
+  EXPECT_TRUE(boSystemErrorText(ENOENT, small, sizeof small));
+  EXPECT_EQ(std::string(small), std::string(std::strerror(ENOENT)).substr(0, 4));
+  EXPECT_FALSE(boSystemErrorText(ENOENT, nullptr, 0));
+}
+
+}  // namespace
