@@ -1,0 +1,218 @@
+// Arcs and clothoids in lines, checked against closed-form values.
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <numbers>
+
+#include "geometry/line.h"
+#include "geometry/line_measure.h"
+
+namespace {
+
+constexpr double kPi = std::numbers::pi;
+
+// Point of the standard clothoid x' = cos(s^2 / 2A^2), y' = sin(s^2 / 2A^2)
+// from its power series.
+ViPoint2d FresnelPoint(double s, double a) {
+  const double turn = s * s / (2.0 * a * a);
+  double x = 0.0, y = 0.0;
+  double power = 1.0;  // turn^k / k!
+  for (int k = 0; k < 80; ++k) {
+    if (k > 0) power *= turn / k;
+    const double term = s * power / (2 * k + 1);
+    const int sign = (k / 2) % 2 == 0 ? 1 : -1;
+    if (k % 2 == 0) {
+      x += sign * term;
+    } else {
+      y += sign * term;
+    }
+  }
+  return {x, y};
+}
+
+struct LineDeleter {
+  LiLine* line;
+  ~LineDeleter() { vLiLineDelete(&line); }
+};
+
+}  // namespace
+
+TEST(Arc, TwoPointArcHasItsMidpointAndLengthFromTheCircle) {
+  LiLine* line = LiLineCreate(false);
+  LineDeleter guard{line};
+  LiLineAddP2d(line, 0.0, 0.0);
+  const LiElm arc = LiLineAddArc2PTo(line, 10.0, 0.0, 10.0);
+  ASSERT_EQ(LiElmGetType(line, arc), kLiElmArc2p);
+
+  // Radius 10 over a chord of 10 spans 60 degrees; a left turn bulges to the
+  // right of the chord, below it.
+  const double length = 10.0 * kPi / 3.0;
+  EXPECT_NEAR(dLiLineLength(line), length, 1e-9);
+  ViPoint3d middle;
+  double direction;
+  ASSERT_TRUE(boLiLineGetPointAtLength(line, length / 2.0, &middle, &direction));
+  EXPECT_NEAR(middle.x, 5.0, 1e-9);
+  EXPECT_NEAR(middle.y, 5.0 * std::sqrt(3.0) - 10.0, 1e-9);
+  EXPECT_NEAR(direction, 0.0, 1e-9);
+  ViPoint3d start;
+  ASSERT_TRUE(boLiLineGetPointAtLength(line, 0.0, &start, &direction));
+  EXPECT_NEAR(direction, -kPi / 6.0, 1e-9);
+  EXPECT_NEAR(dLiLineGetCurvatureAtLength(line, 1.0), 0.1, 1e-12);
+
+  // A negative radius turns right and bulges above the chord.
+  ASSERT_TRUE(boLiElmSet2pArc(line, arc, -10.0, false));
+  ASSERT_TRUE(boLiLineGetPointAtLength(line, length / 2.0, &middle, &direction));
+  EXPECT_NEAR(middle.y, 10.0 - 5.0 * std::sqrt(3.0), 1e-9);
+  EXPECT_NEAR(dLiLineGetCurvatureAtLength(line, 1.0), -0.1, 1e-12);
+
+  // A radius shorter than half the chord is refused and changes nothing.
+  EXPECT_FALSE(boLiElmSet2pArc(line, arc, 4.0, false));
+  EXPECT_DOUBLE_EQ(dLiElmGetRadius(line, arc), -10.0);
+  EXPECT_FALSE(boLiElmSet2pArc(line, LiElmGetFirst(line), 10.0, false));
+}
+
+TEST(Arc, LargeFlagTakesTheLongWayRound) {
+  LiLine* line = LiLineCreate(false);
+  LineDeleter guard{line};
+  LiLineAddP2d(line, 0.0, 0.0);
+  const LiElm arc = LiLineAddArc2PTo(line, 10.0, 0.0, 10.0, true);
+  EXPECT_TRUE(boLiElmIsLarge(line, arc));
+
+  // The long arc's centre lies below the chord at (5, -5 sqrt 3); its middle
+  // is one radius further down.
+  const double length = 10.0 * (2.0 * kPi - kPi / 3.0);
+  EXPECT_NEAR(dLiLineLength(line), length, 1e-9);
+  ViPoint3d middle;
+  double direction;
+  ASSERT_TRUE(boLiLineGetPointAtLength(line, length / 2.0, &middle, &direction));
+  EXPECT_NEAR(middle.x, 5.0, 1e-9);
+  EXPECT_NEAR(middle.y, -5.0 * std::sqrt(3.0) - 10.0, 1e-9);
+  EXPECT_NEAR(direction, 0.0, 1e-9);
+
+  ViExtent extent;
+  vLiLineGetExtent(line, &extent);
+  EXPECT_NEAR(extent.dMinX, -5.0, 1e-9);
+  EXPECT_NEAR(extent.dMaxX, 15.0, 1e-9);
+  EXPECT_NEAR(extent.dMinY, -5.0 * std::sqrt(3.0) - 10.0, 1e-9);
+  EXPECT_NEAR(extent.dMaxY, 0.0, 1e-9);
+}
+
+TEST(Arc, ThreePointArcRunsThroughItsMiddlePoint) {
+  LiLine* line = LiLineCreate(false);
+  LineDeleter guard{line};
+  LiLineAddP2d(line, 0.0, 0.0);
+  const LiElm arc = LiLineAddP2d(line, 10.0, 0.0);
+  ASSERT_TRUE(boLiElmSet3pArc(line, arc, 5.0, 5.0));
+  // Half the circle of radius 5 about (5, 0), over the top, clockwise.
+  EXPECT_NEAR(dLiLineLength(line), 5.0 * kPi, 1e-9);
+  ViPoint3d point;
+  double direction;
+  ASSERT_TRUE(boLiLineGetPointAtLength(line, 5.0 * kPi / 4.0, &point, &direction));
+  EXPECT_NEAR(point.x, 5.0 - 5.0 * std::sqrt(0.5), 1e-9);
+  EXPECT_NEAR(point.y, 5.0 * std::sqrt(0.5), 1e-9);
+  EXPECT_NEAR(direction, kPi / 4.0, 1e-9);
+
+  // Three points on a straight line make no arc.
+  EXPECT_FALSE(boLiElmSet3pArc(line, arc, 5.0, 0.0));
+
+  // A reader that meets the middle point as the next point folds it in.
+  LiLine* read = LiLineCreate(false);
+  LineDeleter readGuard{read};
+  LiLineAddP2d(read, 0.0, 0.0);
+  const LiElm end = LiLineAddP2d(read, 10.0, 0.0);
+  LiLineAddP2d(read, 5.0, -5.0);
+  ASSERT_TRUE(boLiElmSet3pArcFromNext(read, end));
+  EXPECT_EQ(iLiLineGetElmCount(read), 2);
+  ViPoint3d middle;
+  vLiElmGetArcMiddle(read, end, &middle);
+  EXPECT_DOUBLE_EQ(middle.y, -5.0);
+}
+
+TEST(Clothoid, EndTangentAndCurvatureFollowFromRadiusAndParameter) {
+  // From a straight into radius 200 with A = 100: length A^2 / R = 50 and an
+  // end direction of L^2 / 2A^2 = 0.125.
+  const double a = 100.0, radius = 200.0, length = 50.0;
+  const ViPoint2d end = FresnelPoint(length, a);
+  LiLine* line = LiLineCreate(false);
+  LineDeleter guard{line};
+  LiLineAddP2d(line, 0.0, 0.0);
+  const LiElm clothoid = LiLineAddP2d(line, end.x, end.y);
+  ASSERT_TRUE(boLiElmSetClotoide(line, clothoid, 0.0, radius, a));
+
+  EXPECT_NEAR(dLiLineLength(line), length, 1e-9);
+  ViPoint3d point;
+  double direction;
+  ASSERT_TRUE(boLiLineGetPointAtLength(line, 0.0, &point, &direction));
+  EXPECT_NEAR(direction, 0.0, 1e-9);
+  ASSERT_TRUE(boLiLineGetPointAtLength(line, length, &point, &direction));
+  EXPECT_NEAR(direction, 0.125, 1e-9);
+  EXPECT_NEAR(dLiLineGetCurvatureAtLength(line, length), 1.0 / radius, 1e-12);
+  EXPECT_NEAR(dLiLineGetCurvatureAtLength(line, length / 2.0), 0.5 / radius, 1e-12);
+  const ViPoint2d middle = FresnelPoint(length / 2.0, a);
+  ASSERT_TRUE(boLiLineGetPointAtLength(line, length / 2.0, &point, &direction));
+  EXPECT_NEAR(point.x, middle.x, 1e-9);
+  EXPECT_NEAR(point.y, middle.y, 1e-9);
+
+  double r1, r2, storedA;
+  vLiElmGetClotoide(line, clothoid, &r1, &r2, &storedA);
+  EXPECT_EQ(r1, 0.0);
+  EXPECT_EQ(r2, radius);
+  EXPECT_EQ(storedA, a);
+  // Different curvatures need a parameter.
+  EXPECT_FALSE(boLiElmSetClotoide(line, clothoid, 0.0, radius, 0.0));
+}
+
+TEST(Clothoid, ArcToArcPieceMatchesTheStandardCurve) {
+  // Radius 500 to radius 200 with A = 150 is the piece of the standard
+  // clothoid from s = A^2/500 = 45 to s = A^2/200 = 112.5.
+  const double a = 150.0, s1 = 45.0, s2 = 112.5;
+  const ViPoint2d start = FresnelPoint(s1, a);
+  const ViPoint2d end = FresnelPoint(s2, a);
+  LiLine* line = LiLineCreate(false);
+  LineDeleter guard{line};
+  LiLineAddP2d(line, start.x, start.y);
+  const LiElm clothoid = LiLineAddP2d(line, end.x, end.y);
+  ASSERT_TRUE(boLiElmSetClotoide(line, clothoid, 500.0, 200.0, a));
+
+  EXPECT_NEAR(dLiLineLength(line), s2 - s1, 1e-9);
+  ViPoint3d point;
+  double direction;
+  ASSERT_TRUE(boLiLineGetPointAtLength(line, 0.0, &point, &direction));
+  EXPECT_NEAR(direction, s1 * s1 / (2.0 * a * a), 1e-9);
+  ASSERT_TRUE(boLiLineGetPointAtLength(line, s2 - s1, &point, &direction));
+  EXPECT_NEAR(direction, s2 * s2 / (2.0 * a * a), 1e-9);
+  EXPECT_NEAR(dLiLineGetCurvatureAtLength(line, s2 - s1), 1.0 / 200.0, 1e-12);
+  const ViPoint2d inside = FresnelPoint(80.0, a);
+  ASSERT_TRUE(boLiLineGetPointAtLength(line, 80.0 - s1, &point, nullptr));
+  EXPECT_NEAR(point.x, inside.x, 1e-9);
+  EXPECT_NEAR(point.y, inside.y, 1e-9);
+}
+
+TEST(Clothoid, StaysWithinAMicrometreOverAKilometre) {
+  // A = 300 into radius 90: 1000 m that turn more than five radians. The
+  // curve turns right, so it is the mirror image of the standard one.
+  const double a = 300.0, length = 1000.0;
+  const ViPoint2d end = FresnelPoint(length, a);
+  LiLine* line = LiLineCreate(false);
+  LineDeleter guard{line};
+  LiLineAddP2d(line, 1000.0, 2000.0);
+  const LiElm clothoid = LiLineAddP2d(line, 1000.0 + end.x, 2000.0 - end.y);
+  ASSERT_TRUE(boLiElmSetClotoide(line, clothoid, 0.0, -90.0, a));
+  EXPECT_NEAR(dLiLineLength(line), length, 1e-6);
+  for (double s : {137.0, 500.0, 871.5, 999.0}) {
+    const ViPoint2d expected = FresnelPoint(s, a);
+    ViPoint3d point;
+    double direction;
+    ASSERT_TRUE(boLiLineGetPointAtLength(line, s, &point, &direction));
+    EXPECT_NEAR(point.x, 1000.0 + expected.x, 1e-6) << s;
+    EXPECT_NEAR(point.y, 2000.0 - expected.y, 1e-6) << s;
+    EXPECT_NEAR(std::remainder(direction + s * s / (2.0 * a * a), 2.0 * kPi), 0.0, 1e-9) << s;
+  }
+  // Its extent reaches the turning points of the loop, beyond both ends.
+  ViExtent extent;
+  vLiLineGetExtent(line, &extent);
+  double maxX = 0.0;
+  for (int i = 0; i <= 100000; ++i) maxX = std::max(maxX, FresnelPoint(i * 0.01, a).x);
+  EXPECT_NEAR(extent.dMaxX, 1000.0 + maxX, 1e-6);
+  EXPECT_GT(extent.dMaxX, 1000.0 + end.x + 1.0);
+}

@@ -1,0 +1,319 @@
+// Lines: walking along them, the nearest piece and side, elements and their
+// data, and the line container with its fields.
+#include "geometry/line.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstring>
+#include <numbers>
+#include <string>
+
+#include "geometry/line_measure.h"
+#include "geometry/lines.h"
+
+namespace {
+
+constexpr double kPi = std::numbers::pi;
+
+struct LineDeleter {
+  LiLine* line;
+  ~LineDeleter() { vLiLineDelete(&line); }
+};
+
+// A line of every kind of piece: straight (0,0)-(10,0); a left quarter
+// circle of radius 10 about (10,10) to (20,10); an invisible move to (20,20);
+// a straight of type 98 to (20,30); a half circle by three points about
+// (25,30) to (30,30), turning right over the top.
+LiLine* MixedLine() {
+  LiLine* line = LiLineCreate(true);
+  LiLineAddP(line, 0.0, 0.0, 0.0);
+  LiLineAddP(line, 10.0, 0.0, 1.0);
+  LiLineAddArc2PTo(line, 20.0, 10.0, 10.0);
+  LiLineAddPInvisible(line, 20.0, 20.0, 5.0);
+  const LiElm alt = LiLineAddP(line, 20.0, 30.0, 7.0);
+  boLiElmSetType(line, alt, kLiElmStraightAlt);
+  const LiElm half = LiLineAddP(line, 30.0, 30.0, 7.0);
+  boLiElmSet3pArc(line, half, 25.0, 35.0);
+  return line;
+}
+
+}  // namespace
+
+TEST(LineWalk, PositionAndDirectionInsideEveryKindOfPiece) {
+  LiLine* line = MixedLine();
+  LineDeleter guard{line};
+  const double quarter = 10.0 * kPi / 2.0;
+  const double half = 5.0 * kPi;
+  EXPECT_NEAR(dLiLineLength(line), 10.0 + quarter + 10.0 + half, 1e-9);
+
+  ViPoint3d point;
+  double direction;
+  // Straight, with its height between 0 and 1.
+  ASSERT_TRUE(boLiLineGetPointAtLength(line, 4.0, &point, &direction));
+  EXPECT_NEAR(point.x, 4.0, 1e-12);
+  EXPECT_NEAR(point.y, 0.0, 1e-12);
+  EXPECT_NEAR(point.z, 0.4, 1e-12);
+  EXPECT_NEAR(direction, 0.0, 1e-12);
+  // Quarter circle, a third of the way round.
+  ASSERT_TRUE(boLiLineGetPointAtLength(line, 10.0 + quarter / 3.0, &point, &direction));
+  EXPECT_NEAR(point.x, 10.0 + 10.0 * std::sin(kPi / 6.0), 1e-9);
+  EXPECT_NEAR(point.y, 10.0 - 10.0 * std::cos(kPi / 6.0), 1e-9);
+  EXPECT_NEAR(direction, kPi / 6.0, 1e-9);
+  // The invisible move has no length: the type 98 straight follows at once.
+  ASSERT_TRUE(boLiLineGetPointAtLength(line, 10.0 + quarter + 2.5, &point, &direction));
+  EXPECT_NEAR(point.x, 20.0, 1e-9);
+  EXPECT_NEAR(point.y, 22.5, 1e-9);
+  EXPECT_NEAR(direction, kPi / 2.0, 1e-9);
+  // Half circle by three points, at its top.
+  ASSERT_TRUE(boLiLineGetPointAtLength(line, 20.0 + quarter + half / 2.0, &point, &direction));
+  EXPECT_NEAR(point.x, 25.0, 1e-9);
+  EXPECT_NEAR(point.y, 35.0, 1e-9);
+  EXPECT_NEAR(direction, 0.0, 1e-9);
+  // At the end, within the tolerance of 0.001, and beyond it.
+  ASSERT_TRUE(boLiLineGetPointAtLength(line, dLiLineLength(line) + 0.0009, &point, &direction));
+  EXPECT_DOUBLE_EQ(point.x, 30.0);
+  EXPECT_NEAR(direction, -kPi / 2.0, 1e-9);
+  EXPECT_FALSE(boLiLineGetPointAtLength(line, dLiLineLength(line) + 0.002, &point, &direction));
+  EXPECT_FALSE(boLiLineGetPointAtLength(line, -0.002, &point, &direction));
+  EXPECT_FALSE(boLiLineGetPointAtLength(nullptr, 0.0, &point, &direction));
+
+  // Parts: the invisible move starts the second one.
+  EXPECT_TRUE(boLiElmIsPartStart(line, 3));
+  EXPECT_EQ(LiElmGetPartEnd(line, 0), 2);
+  EXPECT_NEAR(dLiLinePartLength(line, 0, 0), 10.0 + quarter, 1e-9);
+  EXPECT_NEAR(dLiLinePartLength(line, 3, 0), 10.0 + half, 1e-9);
+  // In space: the straight climbs 1 and the arc, added in 2D, falls back to 0.
+  EXPECT_NEAR(dLiLinePartLength(line, 0, 3), std::hypot(10.0, 1.0) + std::hypot(quarter, 1.0),
+              1e-9);
+}
+
+TEST(LineWalk, NearestPieceAndSide) {
+  LiLine* line = MixedLine();
+  LineDeleter guard{line};
+  double distance = 0.0;
+  EXPECT_EQ(LiLineFindNearestSeg(line, 5.0, 1.0, -1.0, &distance), 1);
+  EXPECT_NEAR(distance, 1.0, 1e-12);
+  EXPECT_EQ(iLiElmFindSide(line, 1, 5.0, 1.0), -1);
+  EXPECT_EQ(iLiElmFindSide(line, 1, 5.0, -1.0), 1);
+  EXPECT_EQ(iLiElmFindSide(line, 1, 5.0, 0.0), 0);
+  EXPECT_EQ(LiLineFindNearestSeg(line, 5.0, 1.0, 0.5, &distance), kLiNoElm);
+
+  // The quarter circle: its centre lies on the left, a point outside it on
+  // the right, at the distance from the circle.
+  EXPECT_EQ(LiLineFindNearestSeg(line, 10.0 + 12.0 * std::sin(0.5), 10.0 - 12.0 * std::cos(0.5),
+                                 -1.0, &distance),
+            2);
+  EXPECT_NEAR(distance, 2.0, 1e-9);
+  EXPECT_EQ(iLiElmFindSide(line, 2, 10.0 + 12.0 * std::sin(0.5), 10.0 - 12.0 * std::cos(0.5)), 1);
+  EXPECT_EQ(iLiElmFindSide(line, 2, 12.0, 5.0), -1);
+
+  // The gap of the invisible move is no piece: a point in it is nearest to
+  // the pieces on either side.
+  EXPECT_NE(LiLineFindNearestSeg(line, 21.0, 15.0, -1.0, &distance), 3);
+  EXPECT_EQ(iLiElmFindSide(line, 3, 21.0, 15.0), 0);
+  EXPECT_EQ(LiLineFindNearestSeg(nullptr, 0.0, 0.0, -1.0, &distance), kLiNoElm);
+}
+
+TEST(LineWalk, ChainageOfAPoint) {
+  LiLine* line = MixedLine();
+  LineDeleter guard{line};
+  double length = 0.0, offset = 0.0;
+  ASSERT_TRUE(boLiLineGetLengthAtPoint(line, 3.0, 2.0, -1.0, false, &length, &offset));
+  EXPECT_NEAR(length, 3.0, 1e-12);
+  EXPECT_NEAR(offset, -2.0, 1e-12);
+  // Outside the quarter circle, half way round.
+  const double along = 10.0 + 10.0 * kPi / 4.0;
+  ASSERT_TRUE(boLiLineGetLengthAtPoint(line, 10.0 + 13.0 * std::sqrt(0.5),
+                                       10.0 - 13.0 * std::sqrt(0.5), -1.0, false, &length,
+                                       &offset));
+  EXPECT_NEAR(length, along, 1e-9);
+  EXPECT_NEAR(offset, 3.0, 1e-9);
+  // Before the start: the start itself, or along the tangent when extended.
+  ASSERT_TRUE(boLiLineGetLengthAtPoint(line, -4.0, 3.0, -1.0, false, &length, &offset));
+  EXPECT_NEAR(length, 0.0, 1e-12);
+  EXPECT_NEAR(offset, -5.0, 1e-12);
+  ASSERT_TRUE(boLiLineGetLengthAtPoint(line, -4.0, 3.0, -1.0, true, &length, &offset));
+  EXPECT_NEAR(length, -4.0, 1e-12);
+  EXPECT_NEAR(offset, -3.0, 1e-12);
+  // Beyond the end, which runs downwards at (30, 30).
+  ASSERT_TRUE(boLiLineGetLengthAtPoint(line, 29.0, 26.0, -1.0, true, &length, &offset));
+  EXPECT_NEAR(length, dLiLineLength(line) + 4.0, 1e-9);
+  EXPECT_NEAR(offset, 1.0, 1e-9);
+  EXPECT_FALSE(boLiLineGetLengthAtPoint(line, 3.0, 2.0, 1.0, false, &length, &offset));
+}
+
+TEST(LineWalk, ExtentIncludesTheBulgeOfArcs) {
+  LiLine* line = LiLineCreate(false);
+  LineDeleter guard{line};
+  ViExtent extent;
+  vLiLineGetExtent(line, &extent);
+  EXPECT_TRUE(boViExtentIsEmpty(extent));
+  EXPECT_EQ(extent.dMinX, kViExtentEmptyMin);
+  EXPECT_EQ(extent.dMaxY, kViExtentEmptyMax);
+  LiLineAddP2d(line, 0.0, 0.0);
+  LiLineAddArc2PTo(line, 10.0, 0.0, -5.0);  // half circle over the top
+  vLiLineGetExtent(line, &extent);
+  EXPECT_NEAR(extent.dMinX, 0.0, 1e-12);
+  EXPECT_NEAR(extent.dMaxX, 10.0, 1e-12);
+  EXPECT_NEAR(extent.dMinY, 0.0, 1e-12);
+  EXPECT_NEAR(extent.dMaxY, 5.0, 1e-6);
+}
+
+TEST(LineElements, DataTextsTypesAndShortElements) {
+  LiLine* line = LiLineCreate(false);
+  LineDeleter guard{line};
+  const LiElm a = LiLineAddP2d(line, 0.0, 0.0);
+  const LiElm b = LiLineAddP2d(line, 1.0, 0.0);
+  LiLineAddP2d(line, 1.000001, 0.0);  // a common point of the one before
+  LiLineAddP2d(line, 2.0, 0.0);
+
+  vLiElmSetData(line, b, 0, -10203);
+  vLiElmSetData(line, b, 1, 2);
+  vLiElmSetText(line, b, "-1.0203 2");
+  vLiElmSetText(line, a, "first");
+  vLiElmSetText(line, a, "again");
+  EXPECT_EQ(iLiElmGetData(line, b, 0), -10203);
+  EXPECT_EQ(iLiElmGetData(line, b, 1), 2);
+  EXPECT_EQ(iLiElmGetData(line, b, 2), 0);
+  EXPECT_STREQ(sLiElmGetText(line, b), "-1.0203 2");
+  EXPECT_STREQ(sLiElmGetText(line, a), "again");
+  EXPECT_STREQ(sLiElmGetText(line, 3), "");
+  vLiElmSetText(line, 3, sLiElmGetText(line, a));
+  EXPECT_STREQ(sLiElmGetText(line, 3), "again");
+  const std::string longText(1500, 'x');
+  vLiElmSetText(line, 2, longText.c_str());
+  EXPECT_EQ(strlen(sLiElmGetText(line, 2)), static_cast<size_t>(kLiElmTextMax));
+
+  EXPECT_EQ(iLiLineRemoveShortElements(line, 0), 1);
+  EXPECT_EQ(iLiLineGetElmCount(line), 3);
+  EXPECT_STREQ(sLiElmGetText(line, 2), "again");
+  EXPECT_STREQ(sLiElmGetText(line, 1), "-1.0203 2");
+
+  // Types without data can be set freely; arcs and clothoids only by their
+  // own setters.
+  EXPECT_TRUE(boLiElmSetType(line, 2, 3));
+  EXPECT_EQ(LiElmGetType(line, 2), 3);
+  EXPECT_FALSE(boLiElmSetType(line, 2, kLiElmArc2p));
+  EXPECT_FALSE(boLiElmSetType(line, 2, 256));
+  EXPECT_TRUE(boLiElmSetType(line, 2, kLiElmInvisible));
+  EXPECT_TRUE(boLiElmIsPartStart(line, 2));
+
+  // A copy carries geometry, texts and GUID, and compacts the texts.
+  vLiLineSetGuid(line, "{0A1B2C3D-0000-1111-2222-333344445555}-and-more-than-46");
+  EXPECT_EQ(strlen(sLiLineGetGuid(line)), static_cast<size_t>(kViGuidLength));
+  LiLine* copy = LiLineCreateCopy(line);
+  LineDeleter copyGuard{copy};
+  EXPECT_EQ(iLiLineGetElmCount(copy), 3);
+  EXPECT_STREQ(sLiElmGetText(copy, 0), "again");
+  EXPECT_STREQ(sLiLineGetGuid(copy), sLiLineGetGuid(line));
+  EXPECT_EQ(copy->uDeadTextBytes, 0u);
+
+  // Nulls and positions out of range are taken quietly.
+  EXPECT_EQ(LiElmGetNext(line, 2), kLiNoElm);
+  EXPECT_EQ(LiElmGetPrev(line, 0), kLiNoElm);
+  EXPECT_EQ(LiElmGetNext(line, 17), kLiNoElm);
+  EXPECT_EQ(LiElmGetFirst(nullptr), kLiNoElm);
+  EXPECT_STREQ(sLiElmGetText(nullptr, 0), "");
+  vLiLineDeleteElm(line, 9);
+  vLiElmSetText(nullptr, 0, "x");
+  EXPECT_EQ(iLiLineGetElmCount(line), 3);
+}
+
+TEST(LineElements, PolygonRingsDropTheirRepeatedFirstPoint) {
+  LiLine* ring = LiLineCreate(false);
+  LineDeleter guard{ring};
+  vLiLineSetPolygon(ring, true);
+  LiLineAddP2d(ring, 0.0, 0.0);
+  LiLineAddP2d(ring, 4.0, 0.0);
+  LiLineAddP2d(ring, 4.0, 3.0);
+  LiLineAddP2d(ring, 0.0, 0.0);
+  LiLineAddPInvisible(ring, 10.0, 0.0);
+  LiLineAddP2d(ring, 11.0, 0.0);
+  LiLineAddP2d(ring, 11.0, 1.0);
+  EXPECT_NEAR(dLiLinePartArea(ring, 0, 0), 6.0, 1e-12);
+  EXPECT_EQ(iLiLineRemoveShortElements(ring, 1), 1);
+  EXPECT_EQ(iLiLineGetElmCount(ring), 6);
+  EXPECT_NEAR(dLiLinePartArea(ring, 0, 0), 6.0, 1e-12);
+  EXPECT_NEAR(dLiLinePartArea(ring, 3, 0), 0.5, 1e-12);
+  EXPECT_NEAR(dLiLinePartLength(ring, 0, 0), 12.0, 1e-12);
+}
+
+TEST(LineContainer, IdsOrderMovesAndUserData) {
+  LiLines* lines = LiLinesCreate(24, 4);
+  EXPECT_EQ(lLiLinesGetNextId(lines), 1);
+  LiLine* five = LiLinesCreate2dLine(lines, 5);
+  LiLine* two = LiLinesCreate3dLine(lines, 2);
+  LiLine* nine = LiLinesCreate2dLine(lines, 9);
+  EXPECT_EQ(LiLinesCreate2dLine(lines, 5), nullptr);
+  EXPECT_EQ(LiLinesGetFirst(lines), two);
+  EXPECT_EQ(LiLinesGetNext(lines, two), five);
+  EXPECT_EQ(LiLinesGetNext(lines, five), nine);
+  EXPECT_EQ(LiLinesGetNext(lines, nine), nullptr);
+  EXPECT_TRUE(boLiLineIs3d(two));
+  EXPECT_EQ(lLiLinesGetNextId(lines), 10);
+
+  LiLine* before = LiLinesCreate2dLineBefore(lines, five);
+  EXPECT_EQ(lLiLineGetID(before), 10);
+  EXPECT_EQ(LiLinesGetPrev(lines, five), before);
+  EXPECT_TRUE(boLiLinesMoveLine(lines, two, nullptr));
+  EXPECT_EQ(LiLinesGetLast(lines), two);
+  EXPECT_EQ(LiLinesGetFirst(lines), before);
+  EXPECT_FALSE(boLiLinesMoveLine(lines, two, two));
+  EXPECT_FALSE(boLiLineSetID(two, 9));
+  EXPECT_EQ(LiLinesFindID(lines, 9), nine);
+
+  // User data: 24 zeroed bytes per line, aligned for doubles and pointers.
+  auto* data = static_cast<double*>(pLiLineGetUserData(five));
+  ASSERT_NE(data, nullptr);
+  EXPECT_EQ(data[0], 0.0);
+  EXPECT_EQ(data[2], 0.0);
+  data[0] = 1250.5;
+  EXPECT_EQ(static_cast<double*>(pLiLineGetUserData(five))[0], 1250.5);
+  EXPECT_EQ(pLiLineGetUserData(nullptr), nullptr);
+
+  // Room left in element stores counts as garbage; a copy gives it back.
+  for (int i = 0; i < 3; ++i) LiLineAddP2d(nine, i, 0.0);
+  const long garbage = lLiLinesGetMemPoolGarbage(lines);
+  EXPECT_EQ(garbage % static_cast<long>(sizeof(LiElement)), 0);
+  EXPECT_GT(garbage, 0);
+  LiLine* compact = LiLinesCreate2dLine(lines, 20);
+  boLiLineCopy(compact, nine);
+  vLiLinesDeleteLine(lines, nine);
+  EXPECT_LT(lLiLinesGetMemPoolGarbage(lines), garbage);
+  EXPECT_EQ(iLiLinesGetCount(lines), 4);
+
+  LiLine* removed = before;
+  vLiLineDelete(&removed);
+  EXPECT_EQ(removed, nullptr);
+  EXPECT_EQ(iLiLinesGetCount(lines), 3);
+  EXPECT_EQ(LiLinesGetFirst(lines), five);
+  vLiLinesDelete(&lines);
+  EXPECT_EQ(lines, nullptr);
+}
+
+TEST(LineContainer, FieldsTakeTheOrderInWhichTheyAreFirstNamed) {
+  LiLines* lines = LiLinesCreate(0, 4);
+  LiLine* first = LiLinesCreate2dLine(lines, 1);
+  LiLine* second = LiLinesCreate2dLine(lines, 2);
+  EXPECT_EQ(iLiLinesGetFixedFieldCount(lines), 0);
+  EXPECT_TRUE(boLiLineSetFieldByName(first, "NAME", "Arm, CL"));
+  EXPECT_TRUE(boLiLineSetFieldByName(second, "CL", "1"));
+  EXPECT_TRUE(boLiLineSetFieldByName(first, "CL", "1"));
+  ASSERT_EQ(iLiLinesGetFieldCount(lines), 2);
+  EXPECT_STREQ(sLiLinesGetFieldName(lines, 0), "NAME");
+  EXPECT_STREQ(sLiLinesGetFieldName(lines, 1), "CL");
+  EXPECT_EQ(sLiLinesGetFieldName(lines, 2), nullptr);
+  EXPECT_STREQ(sLiLineGetFieldByName(first, "NAME"), "Arm, CL");
+  EXPECT_STREQ(sLiLineGetFieldByName(second, "NAME"), "");
+  EXPECT_STREQ(sLiLineGetField(second, 1), "1");
+  EXPECT_EQ(iLiLinesFindField(lines, "name"), -1);
+  EXPECT_FALSE(boLiLineSetFieldByName(first, "", "x"));
+  EXPECT_FALSE(boLiLineSetField(first, 5, "x"));
+  EXPECT_TRUE(boLiLineSetField(first, 0, nullptr));
+  EXPECT_STREQ(sLiLineGetField(first, 0), "");
+  vLiLineClearFields(first, 1);
+  EXPECT_STREQ(sLiLineGetField(first, 1), "");
+  EXPECT_STREQ(sLiLineGetField(second, 1), "1");
+  vLiLinesDelete(&lines);
+}
