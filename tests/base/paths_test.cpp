@@ -1,0 +1,132 @@
+#include "base/paths.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+
+#include "tests/base/scratch_folder.h"
+
+namespace {
+
+TEST(PathKinds, DrivesUncNamesAndRoots) {
+  EXPECT_FALSE(boPathHasDrive("1:\\x"));
+  EXPECT_TRUE(boPathIsAbsolute("\\\\server\\share"));
+  EXPECT_FALSE(boPathIsAbsolute("\\x"));
+  EXPECT_TRUE(boPathIsAbsolute("/home/x"));  // the platform's root
+  EXPECT_FALSE(boPathIsAbsolute(nullptr));
+}
+
+TEST(PathParts, DirectoryFileNameAndExtension) {
+  EXPECT_STREQ(sPathDirectory("c:\\x"), "c:\\");
+  EXPECT_STREQ(sPathDirectory("c:x"), "c:");
+  EXPECT_STREQ(sPathDirectory("x"), "");
+  EXPECT_STREQ(sPathDirectory("a\\b/c.txt"), "a\\b");
+  EXPECT_STREQ(sPathDirectory("c:/x/"), "c:/x");
+  EXPECT_STREQ(sPathDirectory("/tmp/a"), "/tmp");
+  EXPECT_STREQ(sPathDirectory("/a"), "/");
+  EXPECT_STREQ(sPathDirectory(nullptr), "");
+
+  char out[kPathSize];
+  EXPECT_STREQ(sPathFileNameTo("c:x", out, sizeof out), "x");
+  EXPECT_STREQ(sPathFileNameTo("a/b\\c.gen", out, sizeof out), "c.gen");
+  EXPECT_STREQ(sPathFileNameTo("d\\long.name", out, 5), "name");  // counted from the end
+  EXPECT_STREQ(sPathBaseNameTo("c:\\v.d\\veg.tar.gen", out, sizeof out), "veg.tar");
+  EXPECT_STREQ(sPathExtensionTo("c:\\v.d\\veg.gen", out, sizeof out), "gen");
+  EXPECT_EQ(PathFindExtension("v.d/veg"), nullptr);
+
+  char path[16] = "x\\a.gen";
+  vPathSetExtension(path, "log", sizeof path);
+  EXPECT_STREQ(path, "x\\a.log");
+  vPathSetExtension(path, "", sizeof path);
+  EXPECT_STREQ(path, "x\\a");
+  vPathSetExtension(path, "toolongextension", sizeof path);
+  EXPECT_STREQ(path, "x\\a.toolongexte");
+}
+
+TEST(PathJoin, KeepsWindowsRulesAndThePlatformsOwnForm) {
+  EXPECT_STREQ(sPathJoin("c:\\a", "b"), "c:\\a\\b");
+  EXPECT_STREQ(sPathJoin("c:", "b"), "c:b");
+  EXPECT_STREQ(sPathJoin("c:/a/", "b"), "c:/a/\\b");
+  EXPECT_STREQ(sPathJoin("", "b"), "b");
+  EXPECT_STREQ(sPathJoin("/tmp", "b"), "/tmp/b");
+  EXPECT_STREQ(sPathJoin("/tmp/", "b"), "/tmp/b");
+  char small[6];
+  EXPECT_STREQ(sPathJoinTo("abc", "def", small, sizeof small), "abc/d");
+
+  char components[kPathSize];
+  const char* rest = PathNextComponent("c:\\a/b", components, sizeof components);
+  EXPECT_STREQ(components, "c:");
+  rest = PathNextComponent(rest, components, sizeof components);
+  EXPECT_STREQ(components, "a");
+  rest = PathNextComponent(rest, components, sizeof components);
+  EXPECT_STREQ(components, "b");
+  EXPECT_EQ(*rest, 0);
+  EXPECT_EQ(PathNextComponent(nullptr, components, sizeof components), nullptr);
+}
+
+TEST(PathRelative, WalksSharedComponentsIgnoringCase) {
+  EXPECT_STREQ(sPathRelative("c:\\a\\b", "c:\\a\\c\\f.txt"), "..\\c\\f.txt");
+  EXPECT_STREQ(sPathRelative("c:\\a", "C:\\A\\x\\y"), "x\\y");
+  EXPECT_STREQ(sPathRelative("c:\\a\\b", "c:\\a"), "..");
+  EXPECT_STREQ(sPathRelative("c:\\a", "d:\\x"), "d:\\x");
+  EXPECT_STREQ(sPathRelative("/data/veg", "/data/veg/m.sfi"), "m.sfi");
+  EXPECT_STREQ(sPathRelative("/data/veg", "/data/bane/m.sfi"), "../bane/m.sfi");
+  std::string tooLong(kPathSize, 'a');
+  EXPECT_STREQ(sPathRelative(tooLong.c_str(), "a"), "");
+
+  EXPECT_STREQ(sPathRelativeOrFull("c:\\a", "b\\c.txt"), "b\\c.txt");
+  EXPECT_STREQ(sPathRelativeOrFull("c:\\a", "d:\\x"), "d:\\x");
+  EXPECT_STREQ(sPathRelativeOrFull("/data/veg", "sub/m.sfi"), "sub/m.sfi");
+  EXPECT_STREQ(sPathRelativeOrFull("/data/veg", "../bane/m.sfi"), "/data/bane/m.sfi");
+  EXPECT_STREQ(sPathRelativeOrFull("/data/veg", "/other/m.sfi"), "/other/m.sfi");
+}
+
+TEST(PathSystem, FullPathsSamePlacesAndExistence) {
+  char out[kPathSize];
+  EXPECT_STREQ(sPathFullTo("/a/./b/../c", out, sizeof out), "/a/c");
+  EXPECT_STREQ(sPathFullTo("c:\\x\\y", out, sizeof out), "c:\\x\\y");
+  EXPECT_EQ(sPathFullTo("", out, sizeof out), nullptr);
+  EXPECT_STREQ(out, "");
+  EXPECT_TRUE(boPathSame("/tmp/x/", "/TMP/x"));
+  EXPECT_FALSE(boPathSame("/tmp/x", "/tmp/y"));
+
+  ScratchFolder folder;
+  ASSERT_FALSE(folder.path().empty());
+  std::filesystem::create_directory(folder / "real");
+  std::filesystem::create_directory_symlink(folder / "real", folder / "link");
+  std::filesystem::create_directory(folder / "other");
+  vWriteWholeFile(folder / "real/m.sfi", "x");
+
+  std::string home = std::filesystem::current_path().string();
+  EXPECT_EQ(iPathComparePlaces((folder / "real").c_str(), (folder / "link").c_str()), 0);
+  EXPECT_EQ(iPathComparePlaces((folder / "real").c_str(), (folder / "other").c_str()), 1);
+  EXPECT_EQ(iPathComparePlaces((folder / "real").c_str(), (folder / "gone").c_str()), -1);
+  EXPECT_EQ(std::filesystem::current_path().string(), home);
+
+  EXPECT_STREQ(sPathInPlace((folder / "link").c_str(), (folder / "real/m.sfi").c_str()), "m.sfi");
+  std::string elsewhere = folder / "other/m.sfi";
+  EXPECT_EQ(sPathInPlace((folder / "real").c_str(), elsewhere.c_str()), elsewhere);
+
+  EXPECT_TRUE(boFileExists((folder / "real/m.sfi").c_str()));
+  EXPECT_FALSE(boFileExists(nullptr));
+
+  char full[kPathSize];
+  vPathMakeAbsolute(folder.path().c_str(), "other/../real/m.sfi", full, sizeof full);
+  EXPECT_EQ(std::string(full), folder / "real/m.sfi");
+}
+
+TEST(PathFilters, BuildDialogFilters) {
+  char out[64];
+  const char* plain[] = {"gen", "sfi", nullptr};
+  EXPECT_STREQ(sFilterFromExtensions(plain, out, sizeof out), "*.gen|*.gen|*.sfi|*.sfi|");
+  const char* whole[] = {"Models|*.sfi|", "gen", nullptr};
+  EXPECT_STREQ(sFilterFromExtensions(whole, out, sizeof out), "Models|*.sfi|*.gen|*.gen|");
+  EXPECT_EQ(sFilterFromExtensions(whole, out, 10), nullptr);
+  char small[24];
+  EXPECT_STREQ(sFilterFromExtensions(plain, small, sizeof small), "*.gen|*.gen|");
+
+  EXPECT_STREQ(sFilterFromList("gen; sfi;", ';', "Models"), "Models (*.gen;*.sfi)|*.gen;*.sfi|");
+}
+
+}  // namespace
