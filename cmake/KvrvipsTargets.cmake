@@ -48,6 +48,7 @@ function(kvrvips_test_suite name)
   target_link_libraries(${name} PRIVATE kvrvips_options ${ARG_DEPENDS}
     GTest::gtest GTest::gmock GTest::gtest_main)
   target_compile_definitions(${name} PRIVATE
+    KVRVIPS_SOURCE_DIR="${PROJECT_SOURCE_DIR}"
     KVRVIPS_TEST_DATA_DIR="${PROJECT_SOURCE_DIR}/tests/data"
     KVRVIPS_BINARY_DIR="${PROJECT_BINARY_DIR}")
   gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST

@@ -138,7 +138,7 @@ TEST_F(FactorySettings, ReadsTunnelStandards) {
 }
 
 TEST_F(FactorySettings, TheShippedSettingsFileFillsEveryTable) {
-  ASSERT_TRUE(boFactorySettingsRead(KVRVIPS_TEST_DATA_DIR "/../../examples/factory_settings.ini"));
+  ASSERT_TRUE(boFactorySettingsRead(KVRVIPS_SOURCE_DIR "/examples/factory_settings.ini"));
   for (int table = 0; table < kFactoryTableCount; ++table) {
     int code = 0;
     const char* text = "";
