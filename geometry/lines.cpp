@@ -21,7 +21,11 @@ LiLine* MakeLine(LiLines* lines, long id, bool bo3d, size_t position) {
   line->boPolygon = lines->boPolygons;
   const size_t blocks = (static_cast<size_t>(lines->iUserDataSize) + sizeof(std::max_align_t) - 1) /
                         sizeof(std::max_align_t);
-  line->userData.assign(blocks, std::max_align_t{});
+  // max_align_t{} leaves its padding undefined; the user data must be zero.
+  line->userData.resize(blocks);
+  if (blocks) {
+    std::memset(static_cast<void*>(line->userData.data()), 0, blocks * sizeof(std::max_align_t));
+  }
   lines->lines.insert(lines->lines.begin() + static_cast<std::ptrdiff_t>(position), line);
   vRenumberFrom(lines, position);
   return line;
