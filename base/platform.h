@@ -111,6 +111,8 @@ bool boPlatformFileSeekEnd(PlatformFile file);
 bool boPlatformFileWrite(PlatformFile file, const void* data, size_t size);
 // Reads up to `size` bytes; returns the count, -1 on failure.
 int64_t lPlatformFileRead(PlatformFile file, void* data, size_t size);
+// The size of an open file in bytes, -1 when it cannot be told.
+int64_t lPlatformFileSize(PlatformFile file);
 bool boPlatformFileClose(PlatformFile file);
 
 // Last write time of an open file as a file time.
@@ -166,6 +168,17 @@ inline constexpr int kPlatformProcessNotStarted = -9999;
 // so a path with blanks becomes several arguments. Returns the exit code, or
 // kPlatformProcessNotStarted. A program ended by a signal gives 128 + signal.
 int iPlatformRunProcess(const char* commandLine);
+
+// What a program's exit(code) arrives as in the program that waits for it.
+// A child's exit status has 8 bits here, so only the low byte arrives:
+// exit(1001) is seen as 233, exit(-1) as 255. On Windows the whole code
+// arrives. Judge an exit code by comparing it with this, never with the
+// number that the program passed to exit.
+int iPlatformExitCodeOf(int code);
+
+// What the platform appends to a program's name to make its file name
+// ("" here, ".exe" on Windows).
+extern const char kPlatformProgramSuffix[];
 
 // ---- Clipboard ----------------------------------------------------------------------
 

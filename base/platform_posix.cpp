@@ -4,6 +4,7 @@
 #include <dlfcn.h>
 #include <errno.h>
 #include <fcntl.h>
+#include <link.h>
 #include <pwd.h>
 #include <spawn.h>
 #include <sys/file.h>
@@ -288,6 +289,12 @@ int64_t lPlatformFileRead(PlatformFile file, void* data, size_t size) {
   }
 }
 
+int64_t lPlatformFileSize(PlatformFile file) {
+  struct stat status;
+  if (fstat(static_cast<int>(file), &status) != 0) return -1;
+  return static_cast<int64_t>(status.st_size);
+}
+
 bool boPlatformFileClose(PlatformFile file) {
   return file != kPlatformNoFile && close(static_cast<int>(file)) == 0;
 }
@@ -455,11 +462,24 @@ bool boPlatformFullPath(const char* path, char* out, size_t size) {
 
 bool boPlatformModulePath(char* out, size_t size) {
   Dl_info info;
-  if (dladdr(reinterpret_cast<void*>(&boPlatformModulePath), &info) == 0 || !info.dli_fname) {
+  link_map* module = nullptr;
+  if (dladdr1(reinterpret_cast<void*>(&boPlatformModulePath), &info,
+              reinterpret_cast<void**>(&module), RTLD_DL_LINKMAP) == 0 ||
+      !info.dli_fname) {
     if (out && size) out[0] = 0;
     return false;
   }
   char full[4096];
+  // The program itself has no name in its link map, and the loader falls
+  // back to argv[0], which need not be a path at all; the kernel knows the
+  // program's file.
+  if (module && module->l_name && module->l_name[0] == 0) {
+    ssize_t length = readlink("/proc/self/exe", full, sizeof full - 1);
+    if (length > 0) {
+      full[length] = 0;
+      return boCopyOut(full, out, size);
+    }
+  }
   if (!realpath(info.dli_fname, full)) return boCopyOut(info.dli_fname, out, size);
   return boCopyOut(full, out, size);
 }
@@ -515,6 +535,10 @@ int iPlatformRunProcess(const char* commandLine) {
   if (WIFSIGNALED(status)) return 128 + WTERMSIG(status);
   return kPlatformProcessNotStarted;
 }
+
+int iPlatformExitCodeOf(int code) { return code & 0xFF; }
+
+const char kPlatformProgramSuffix[] = "";
 
 // ---- Clipboard ----
 

@@ -1,0 +1,235 @@
+// Reading design documents into the design model: the mapping of members to
+// operations, defaults, the no-value mark and surface numbers.
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+
+#include "design_model/design_model.h"
+#include "design_model/document.h"
+#include "tests/base/scratch_folder.h"
+
+namespace NpDesignModel {
+namespace {
+
+std::unique_ptr<DesignModelRecord> Read(const std::string& text) {
+  DocumentProblem problem;
+  std::unique_ptr<DesignModelRecord> design = ReadDocumentText(text, &problem);
+  EXPECT_EQ(problem.iError, 0) << problem.sPointer << ": " << problem.sExpected;
+  return design;
+}
+
+const std::string kSmallRoad = R"({
+  "format": "design-model",
+  "formatVersion": 1,
+  "exporter": {"name": "an exporter's own member", "deep": [[1, 2], {"x": null}]},
+  "input": {
+    "modelVersionNumber": 8.2,
+    "modelType": 1,
+    "referenceAlignmentId": 7,
+    "subSurfaceMaterials": ["Jord", "Fjell \u00f8st"],
+    "alignments": [{
+      "id": 7, "name": "Hovedlinje \u00c6\u00d8\u00c5",
+      "horizontalLineElements": [
+        {"elementNo": 1, "startChainage": 0, "endChainage": 100.5, "startEast": 1000,
+         "startNorth": 2000.25, "endEast": 1100.5, "endNorth": 2000.25, "startRadius": 0,
+         "endRadius": -350, "clothoidParameter": null}
+      ],
+      "verticalLineAnglePoints": [{"chainage": 0, "elevation": 10}, {"chainage": 100.5}]
+    }],
+    "pvmtTmpls": [{"id": 3, "rehab": {"existRoadEdgeLeft": {"refId": 4}}}]
+  },
+  "results": {"sections": [
+    {"chainage": 50,
+     "model": {"refElevation": 11.5, "roadBed": [{"distance": -3.5, "elevation": null}]},
+     "terrain": {"materials": [2, 1], "layerElevations": [{"subSurfaces": [-0.5, null]}]}}
+  ]}
+})";
+
+TEST(DesignDocumentReading, MembersMapToTheOperationsOfTheirClasses) {
+  std::unique_ptr<DesignModelRecord> design = Read(kSmallRoad);
+  ASSERT_TRUE(design);
+  const CInData* in = design->GetI();
+  ASSERT_TRUE(in);
+  EXPECT_DOUBLE_EQ(in->GetModelVersionNumber(), 8.2);
+  EXPECT_EQ(in->GetModelType(), 1);
+  EXPECT_EQ(in->GetReferenceAlignmentID(), 7);
+  EXPECT_EQ(in->GetSubSurfaceMaterials(),
+            (std::vector<std::u16string>{u"Jord", u"Fjell \u00F8st"}));
+
+  ASSERT_EQ(in->GetAlignments().size(), 1u);
+  const CIAlignment& alignment = *in->GetAlignments()[0];
+  EXPECT_EQ(alignment.GetId(), 7);
+  EXPECT_EQ(alignment.GetName(), u"Hovedlinje \u00C6\u00D8\u00C5");
+  ASSERT_EQ(alignment.GetHorizontalLineElements().size(), 1u);
+  const CIHorizontalLineElement& element = *alignment.GetHorizontalLineElements()[0];
+  EXPECT_EQ(element.GetElementNo(), 1);
+  EXPECT_DOUBLE_EQ(element.GetEndChainage(), 100.5);
+  EXPECT_DOUBLE_EQ(element.GetStartNorth(), 2000.25);
+  EXPECT_DOUBLE_EQ(element.GetEndEast(), 1100.5);
+  EXPECT_DOUBLE_EQ(element.GetEndRadius(), -350.0);
+  EXPECT_DOUBLE_EQ(element.GetClothoidParameter(), 999999.0);
+  auto points = alignment.GetVerticalLineAnglePoints();
+  ASSERT_EQ(points.size(), 2u);
+  EXPECT_DOUBLE_EQ(points[0]->GetElevation(), 10.0);
+  EXPECT_DOUBLE_EQ(points[1]->GetChainage(), 100.5);
+
+  const CIPavementTemplate& pavement = *in->GetPvmtTmpls().at(0);
+  EXPECT_EQ(pavement.GetId(), 3);
+  EXPECT_EQ(pavement.GetRehab()->GetExistRoadEdgeLeft()->GetRefId(), 4);
+
+  const CResultData* results = design->GetR();
+  ASSERT_TRUE(results);
+  ASSERT_EQ(results->GetSections().size(), 1u);
+  const CRResultSection& section = *results->GetSections()[0];
+  EXPECT_DOUBLE_EQ(section.GetChainage(), 50.0);
+  EXPECT_DOUBLE_EQ(section.GetModel()->GetRefElevation(), 11.5);
+  auto roadBed = section.GetModel()->GetRoadBed();
+  ASSERT_EQ(roadBed.size(), 1u);
+  EXPECT_DOUBLE_EQ(roadBed[0]->GetDistance(), -3.5);
+  EXPECT_DOUBLE_EQ(roadBed[0]->GetElevation(), 999999.0);
+  EXPECT_EQ(section.GetTerrain()->GetMaterials(),
+            (std::vector<CRTerrainSection::MaterialEnums>{CRTerrainSection::MaterialEnums{2},
+                                                          CRTerrainSection::MaterialEnums{1}}));
+  EXPECT_EQ(section.GetTerrain()->GetLayerElevations().at(0)->GetSubSurfaces(),
+            (std::vector<double>{-0.5, 999999.0}));
+}
+
+TEST(DesignDocumentReading, AbsentMembersReadAtTheirDefaults) {
+  std::unique_ptr<DesignModelRecord> design = Read(kSmallRoad);
+  ASSERT_TRUE(design);
+  const CInData& in = *design->GetI();
+  // Scalars, texts and lists.
+  EXPECT_EQ(in.GetAlignments()[0]->GetGuid(), u"");
+  EXPECT_DOUBLE_EQ(in.GetAlignments()[0]->GetVerticalLineAnglePoints()[1]->GetElevation(), 0.0);
+  EXPECT_DOUBLE_EQ(in.GetAlignments()[0]->GetHorizontalLineElements()[0]->GetStartOffset(), 0.0);
+  EXPECT_TRUE(in.GetSurfaces().empty());
+  EXPECT_TRUE(in.GetClosedDrainages().empty());
+  EXPECT_FALSE(in.GetElevationReferenceSurface().HasSerialNumber());
+  EXPECT_DOUBLE_EQ(in.GetElevationReferenceSurface().GetDecimal(), 0.0);
+  // Single objects are there at their defaults, never null.
+  ASSERT_TRUE(in.GetModelSettings());
+  EXPECT_FALSE(in.GetModelSettings()->IsSodding());
+  ASSERT_TRUE(in.GetRailwayParams());
+  EXPECT_DOUBLE_EQ(in.GetRailwayParams()->GetVerticalOffset(), 0.0);
+  const CIPavementTemplate& pavement = *in.GetPvmtTmpls()[0];
+  EXPECT_EQ(pavement.GetName(), u"");
+  ASSERT_TRUE(pavement.GetInnerSlopesRight());
+  EXPECT_FALSE(pavement.GetInnerSlopesRight()->IsStatus());
+  EXPECT_EQ(pavement.GetRehab()->GetExistRoadEdgeRight()->GetRefId(), 0);
+  const CRResultSection& section = *design->GetR()->GetSections()[0];
+  EXPECT_DOUBLE_EQ(section.GetModel()->GetRailwayRefElevation(), 0.0);
+  EXPECT_TRUE(section.GetModel()->GetSurfacesLeft().empty());
+  EXPECT_DOUBLE_EQ(section.GetTerrain()->GetLayerElevations()[0]->GetDistance(), 0.0);
+  EXPECT_TRUE(section.GetTerrain()->GetObjects().empty());
+}
+
+TEST(DesignDocumentReading, SidesAbsentOrNullAreNotThere) {
+  std::unique_ptr<DesignModelRecord> bare = Read(R"({"format":"design-model","formatVersion":1})");
+  ASSERT_TRUE(bare);
+  EXPECT_EQ(bare->GetI(), nullptr);
+  EXPECT_EQ(bare->GetR(), nullptr);
+  std::unique_ptr<DesignModelRecord> nulls =
+      Read(R"({"format":"design-model","formatVersion":1,"input":null,"results":null})");
+  ASSERT_TRUE(nulls);
+  EXPECT_EQ(nulls->GetI(), nullptr);
+  EXPECT_EQ(nulls->GetR(), nullptr);
+  std::unique_ptr<DesignModelRecord> empty =
+      Read(R"({"format":"design-model","formatVersion":1,"input":{},"results":{}})");
+  ASSERT_TRUE(empty);
+  ASSERT_TRUE(empty->GetI());
+  EXPECT_TRUE(empty->GetI()->GetAlignments().empty());
+  ASSERT_TRUE(empty->GetR());
+  EXPECT_TRUE(empty->GetR()->GetSections().empty());
+}
+
+TEST(DesignDocumentReading, AByteOrderMarkInFrontIsPassedOver) {
+  std::unique_ptr<DesignModelRecord> design = Read(
+      "\xEF\xBB\xBF{\"format\":\"design-model\",\"formatVersion\":1,\"input\":{\"modelType\":2}}");
+  ASSERT_TRUE(design);
+  EXPECT_EQ(design->GetI()->GetModelType(), 2);
+  // Only in front: the mark anywhere else is no JSON.
+  EXPECT_FALSE(ReadDocumentText("\xEF\xBB\xBF\xEF\xBB\xBF{}", nullptr));
+}
+
+TEST(DesignDocumentReading, SurfaceNumberHasASerialNumberExactlyWhenOneIsGiven) {
+  std::unique_ptr<DesignModelRecord> design = Read(R"({
+    "format": "design-model", "formatVersion": 1,
+    "input": {"surfaces": [
+      {"surfaceNumber": {"decimal": -1.2, "serialNumber": 4294967295}},
+      {"surfaceNumber": {"decimal": 2.01}},
+      {"surfaceNumber": {"decimal": null, "serialNumber": 0}},
+      {"surfaceNumber": {}}
+    ]}})");
+  ASSERT_TRUE(design);
+  auto surfaces = design->GetI()->GetSurfaces();
+  ASSERT_EQ(surfaces.size(), 4u);
+  CSurfaceNumber withSerial = surfaces[0]->GetSurfaceNumber();
+  EXPECT_DOUBLE_EQ(withSerial.GetDecimal(), -1.2);
+  EXPECT_TRUE(withSerial.HasSerialNumber());
+  EXPECT_EQ(withSerial.GetSerialNumber(), 4294967295u);
+  CSurfaceNumber without = surfaces[1]->GetSurfaceNumber();
+  EXPECT_DOUBLE_EQ(without.GetDecimal(), 2.01);
+  EXPECT_FALSE(without.HasSerialNumber());
+  EXPECT_EQ(without.GetSerialNumber(), 0u);
+  CSurfaceNumber zeroSerial = surfaces[2]->GetSurfaceNumber();
+  EXPECT_DOUBLE_EQ(zeroSerial.GetDecimal(), 999999.0);
+  EXPECT_TRUE(zeroSerial.HasSerialNumber());
+  EXPECT_EQ(zeroSerial.GetSerialNumber(), 0u);
+  EXPECT_FALSE(surfaces[3]->GetSurfaceNumber().HasSerialNumber());
+  EXPECT_DOUBLE_EQ(surfaces[3]->GetSurfaceNumber().GetDecimal(), 0.0);
+}
+
+TEST(DesignDocumentReading, ClosedDrainageIsWalkedSectionBySection) {
+  std::unique_ptr<DesignModelRecord> design = Read(R"({
+    "format": "design-model", "formatVersion": 1,
+    "input": {"closedDrainages": [
+      {"sections": [{"chainage": 10, "elevationMode": 1},
+                    {"chainage": 20, "elevationMode": -1, "points": [{"distance": 2.5, "elevation": 3}]},
+                    {"chainage": 30}]},
+      {"sections": []}
+    ]}})");
+  ASSERT_TRUE(design);
+  auto drainages = design->GetI()->GetClosedDrainages();
+  ASSERT_EQ(drainages.size(), 2u);
+  const CIClosedDrainage& drainage = *drainages[0];
+  std::vector<double> chainages;
+  for (const CIClosedDrainageSection* section = drainage.FirstSection(); section;
+       section = drainage.NextSectionOf(section)) {
+    chainages.push_back(section->GetChainage());
+  }
+  EXPECT_EQ(chainages, (std::vector<double>{10.0, 20.0, 30.0}));
+  const CIClosedDrainageSection* second = drainage.NextSectionOf(drainage.FirstSection());
+  EXPECT_EQ(second->GetElevationMode(), -1);
+  EXPECT_DOUBLE_EQ(second->GetPoints().at(0)->GetDistance(), 2.5);
+  // An empty drainage has no first section; a section of another drainage
+  // and null have no next one.
+  EXPECT_EQ(drainages[1]->FirstSection(), nullptr);
+  EXPECT_EQ(drainages[1]->NextSectionOf(drainage.FirstSection()), nullptr);
+  EXPECT_EQ(drainage.NextSectionOf(nullptr), nullptr);
+}
+
+TEST(DesignDocumentReading, AVectorAskedForTwiceHasTheSameContent) {
+  std::unique_ptr<DesignModelRecord> design = Read(kSmallRoad);
+  ASSERT_TRUE(design);
+  const CRModelSection& model = *design->GetR()->GetSections()[0]->GetModel();
+  EXPECT_EQ(model.GetRoadBed(), model.GetRoadBed());
+  EXPECT_EQ(design->GetI()->GetAlignments(), design->GetI()->GetAlignments());
+  EXPECT_EQ(design->GetI()->GetSubSurfaceMaterials(), design->GetI()->GetSubSurfaceMaterials());
+}
+
+TEST(DesignDocumentReading, AnOpenedFileWritesBackAsItWasRead) {
+  // Every member of every class, each with a value of its own: reading and
+  // writing it again gives the same bytes only if every member goes to its
+  // own operation and back under its own name.
+  std::string path = std::string(KVRVIPS_TEST_DATA_DIR) + "/design_model/every_member.json";
+  std::string expected = sReadWholeFile(path);
+  ASSERT_FALSE(expected.empty());
+  DocumentProblem problem;
+  std::unique_ptr<DesignModelRecord> design = ReadDocumentFile(path.c_str(), &problem);
+  ASSERT_TRUE(design) << problem.sPointer << ": " << problem.sExpected;
+  EXPECT_EQ(sDocumentText(*design, true), expected);
+}
+
+}  // namespace
+}  // namespace NpDesignModel

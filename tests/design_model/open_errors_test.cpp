@@ -1,0 +1,236 @@
+// Bad design documents: every one is refused with its open error code, and
+// the validation names the first bad member and what was expected there.
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <memory>
+#include <string>
+
+#include "design_model/design_model.h"
+#include "design_model/document.h"
+#include "tests/base/scratch_folder.h"
+
+namespace NpDesignModel {
+namespace {
+
+// A document with `input` as its input side.
+std::string WithInput(const std::string& input) {
+  return R"({"format":"design-model","formatVersion":1,"input":)" + input + "}";
+}
+
+DocumentProblem ProblemOf(std::string_view text) {
+  DocumentProblem problem;
+  std::unique_ptr<DesignModelRecord> design = ReadDocumentText(text, &problem);
+  EXPECT_EQ(design == nullptr, problem.iError != 0);
+  return problem;
+}
+
+TEST(DesignDocumentOpening, OpenGivesTheDesignAndErrorZero) {
+  ScratchFolder folder;
+  // The path reaches Open widened from the ANSI code page: "vei\xF8.json".
+  std::string narrow = folder / "vei\xF8.json";
+  vWriteWholeFile(narrow, WithInput(R"({"modelType":3})"));
+  std::u16string wide(folder.path().begin(), folder.path().end());
+  wide += u"/vei\u00F8.json";
+  int32_t err = 99;
+  std::unique_ptr<CDesignModel> design(CDesignModel::Open(wide, err));
+  EXPECT_EQ(err, 0);
+  ASSERT_TRUE(design);
+  ASSERT_TRUE(design->GetI());
+  EXPECT_EQ(design->GetI()->GetModelType(), 3);
+  EXPECT_EQ(design->GetR(), nullptr);
+}
+
+TEST(DesignDocumentOpening, AFileThatCannotBeReadIsError2) {
+  ScratchFolder folder;
+  int32_t err = 0;
+  std::u16string missing(folder.path().begin(), folder.path().end());
+  EXPECT_EQ(CDesignModel::Open(missing + u"/mangler.json", err), nullptr);
+  EXPECT_EQ(err, -2);
+  err = 0;
+  EXPECT_EQ(CDesignModel::Open(missing, err), nullptr);  // a folder
+  EXPECT_EQ(err, -2);
+  err = 0;
+  EXPECT_EQ(CDesignModel::Open(u"", err), nullptr);
+  EXPECT_EQ(err, -2);
+  DocumentProblem problem = ValidateDocument((folder / "mangler.json").c_str());
+  EXPECT_EQ(problem.iError, -2);
+  EXPECT_EQ(problem.sPointer, "");
+  EXPECT_EQ(problem.sExpected, "a file that can be read");
+}
+
+TEST(DesignDocumentOpening, ADocumentThatIsNoDesignDocumentIsError3) {
+  struct Case {
+    const char* text;
+    const char* pointer;
+    const char* expected;
+  };
+  const Case kCases[] = {
+      {"", "", "a JSON document (Empty: no JSON found)"},
+      {"{\"format\": \"design-model\", ", "", nullptr},
+      {"design-model", "", nullptr},
+      {"[{\"format\":\"design-model\",\"formatVersion\":1}]", "", "an object"},
+      {"{\"formatVersion\":1}", "/format", "the string \"design-model\""},
+      {"{\"format\":\"Design-Model\",\"formatVersion\":1}", "/format",
+       "the string \"design-model\""},
+      {"{\"format\":7,\"formatVersion\":1}", "/format", "the string \"design-model\""},
+      {"{\"format\":\"design-model\"}", "/formatVersion", "an integer"},
+      {"{\"format\":\"design-model\",\"formatVersion\":\"1\"}", "/formatVersion", "an integer"},
+      {"{\"format\":\"design-model\",\"formatVersion\":1.0}", "/formatVersion", "an integer"},
+      {"{\"format\":\"design-model\",\"formatVersion\":0}", "/formatVersion",
+       "a format version of at least 1"},
+      {"{\"format\":\"design-model\",\"formatVersion\":1,\"input\":[]}", "/input",
+       "an object or null"},
+      {"{\"format\":\"design-model\",\"formatVersion\":1,\"results\":true}", "/results",
+       "an object or null"},
+  };
+  EXPECT_EQ(ProblemOf(std::string_view()).iError, -3);
+  for (const Case& c : kCases) {
+    DocumentProblem problem = ProblemOf(c.text);
+    EXPECT_EQ(problem.iError, -3) << c.text;
+    EXPECT_EQ(problem.sPointer, c.pointer) << c.text;
+    if (c.expected) {
+      EXPECT_EQ(problem.sExpected, c.expected) << c.text;
+    }
+  }
+}
+
+TEST(DesignDocumentOpening, ATooNewFormatVersionIsError4) {
+  for (const char* version : {"2", "18446744073709551615"}) {
+    std::string text = std::string("{\"format\":\"design-model\",\"formatVersion\":") + version +
+                       ",\"input\":\"not looked at\"}";
+    DocumentProblem problem = ProblemOf(text);
+    EXPECT_EQ(problem.iError, -4) << version;
+    EXPECT_EQ(problem.sPointer, "/formatVersion");
+    EXPECT_EQ(problem.sExpected, "a format version of at most 1");
+  }
+  ScratchFolder folder;
+  std::string path = folder / "ny.json";
+  vWriteWholeFile(path, "{\"format\":\"design-model\",\"formatVersion\":2}");
+  int32_t err = 0;
+  EXPECT_EQ(CDesignModel::Open(std::u16string(path.begin(), path.end()), err), nullptr);
+  EXPECT_EQ(err, -4);
+}
+
+TEST(DesignDocumentOpening, AMemberOfTheWrongKindNamesItsPlaceAndWhatWasExpected) {
+  struct Case {
+    const char* input;
+    const char* pointer;
+    const char* expected;
+  };
+  const Case kCases[] = {
+      {R"({"modelVersionNumber":"10"})", "/input/modelVersionNumber", "a number or null"},
+      {R"({"modelType":1.5})", "/input/modelType", "an integer from -2147483648 to 2147483647"},
+      {R"({"modelType":1.0})", "/input/modelType", "an integer from -2147483648 to 2147483647"},
+      {R"({"referenceAlignmentId":2147483648})", "/input/referenceAlignmentId",
+       "an integer from -2147483648 to 2147483647"},
+      {R"({"referenceAlignmentId":-2147483649})", "/input/referenceAlignmentId",
+       "an integer from -2147483648 to 2147483647"},
+      {R"({"referenceAlignmentId":null})", "/input/referenceAlignmentId",
+       "an integer from -2147483648 to 2147483647"},
+      {R"({"elevationReferenceSurface":{"serialNumber":-1}})",
+       "/input/elevationReferenceSurface/serialNumber", "an integer from 0 to 4294967295"},
+      {R"({"elevationReferenceSurface":{"serialNumber":4294967296}})",
+       "/input/elevationReferenceSurface/serialNumber", "an integer from 0 to 4294967295"},
+      {R"({"elevationReferenceSurface":{"decimal":"1.2"}})",
+       "/input/elevationReferenceSurface/decimal", "a number or null"},
+      {R"({"elevationReferenceSurface":1.2})", "/input/elevationReferenceSurface", "an object"},
+      {R"({"modelSettings":{"sodding":1}})", "/input/modelSettings/sodding", "true or false"},
+      {R"({"railwayParams":[]})", "/input/railwayParams", "an object"},
+      {R"({"subSurfaceMaterials":["Jord",2]})", "/input/subSurfaceMaterials/1", "a string"},
+      {R"({"alignments":{}})", "/input/alignments", "an array"},
+      {R"({"alignments":[{"id":1},7]})", "/input/alignments/1", "an object"},
+      {R"({"alignments":[{"name":null}]})", "/input/alignments/0/name", "a string"},
+      {R"({"closedDrainages":[{"sections":[{},{"points":[{"distance":true}]}]}]})",
+       "/input/closedDrainages/0/sections/1/points/0/distance", "a number or null"},
+      {R"({"pvmtTmpls":[{"rehab":{"existRoadEdgeRight":{"refIdType":"a"}}}]})",
+       "/input/pvmtTmpls/0/rehab/existRoadEdgeRight/refIdType",
+       "an integer from -2147483648 to 2147483647"},
+  };
+  for (const Case& c : kCases) {
+    DocumentProblem problem = ProblemOf(WithInput(c.input));
+    EXPECT_EQ(problem.iError, -3) << c.input;
+    EXPECT_EQ(problem.sPointer, c.pointer) << c.input;
+    EXPECT_EQ(problem.sExpected, c.expected) << c.input;
+  }
+}
+
+TEST(DesignDocumentOpening, ValidationNamesAWrongTypeDeepInTheResults) {
+  ScratchFolder folder;
+  std::string path = folder / "resultat.json";
+  vWriteWholeFile(path, R"({
+    "format": "design-model", "formatVersion": 1,
+    "results": {"sections": [
+      {"chainage": 0},
+      {"chainage": 10, "model": {"refElevation": 5, "pavementLayers": [
+        {"layerType": 1, "layerPoints": [
+          {"point": {"distance": 1, "elevation": 2}},
+          {"point": {"distance": 1, "elevation": 2}},
+          {"point": {"distance": -1, "elevation": "2.5"}}
+        ]}
+      ]}},
+      {"chainage": 20, "model": {"refElevation": "also bad, but after the first"}}
+    ]}})");
+  DocumentProblem problem = ValidateDocument(path.c_str());
+  EXPECT_EQ(problem.iError, -3);
+  EXPECT_EQ(problem.sPointer,
+            "/results/sections/1/model/pavementLayers/0/layerPoints/2/point/elevation");
+  EXPECT_EQ(problem.sExpected, "a number or null");
+
+  vWriteWholeFile(path, WithInput("{}"));
+  problem = ValidateDocument(path.c_str());
+  EXPECT_EQ(problem.iError, 0);
+  EXPECT_EQ(problem.sPointer, "");
+  EXPECT_EQ(problem.sExpected, "");
+}
+
+TEST(DesignDocumentOpening, MalformedTextNestingAndSizeAreRefusedWithoutHarm) {
+  // Invalid UTF-8 in a text, a lone surrogate and numbers past what a double
+  // or an integer holds.
+  EXPECT_EQ(ProblemOf(WithInput("{\"subSurfaceMaterials\":[\"Gr\xF8"
+                                "ft\"]}"))
+                .iError,
+            -3);
+  EXPECT_EQ(ProblemOf(WithInput(R"({"subSurfaceMaterials":["\ud800"]})")).iError, -3);
+  EXPECT_EQ(ProblemOf(WithInput(R"({"modelVersionNumber":1e400})")).iError, -3);
+  EXPECT_EQ(ProblemOf(WithInput(R"({"modelType":18446744073709551616})")).iError, -3);
+
+  // Nesting deeper than allowed, even in a member that is not read.
+  std::string deep =
+      std::string(kMaxDocumentNesting + 1, '[') + std::string(kMaxDocumentNesting + 1, ']');
+  DocumentProblem nested = ProblemOf(WithInput("{\"exporter\":" + deep + "}"));
+  EXPECT_EQ(nested.iError, -3);
+  EXPECT_EQ(nested.sPointer, "");
+  EXPECT_NE(nested.sExpected.find("too deep"), std::string::npos);
+
+  // A file above the size limit is refused before it is read: a sparse file
+  // takes no room on the disk.
+  ScratchFolder folder;
+  std::string huge = folder / "stor.json";
+  vWriteWholeFile(huge, WithInput("{}"));
+  std::filesystem::resize_file(huge, kMaxDocumentBytes + 1);
+  DocumentProblem tooLarge = ValidateDocument(huge.c_str());
+  EXPECT_EQ(tooLarge.iError, -3);
+  EXPECT_EQ(tooLarge.sExpected, "a document of at most 1073741824 bytes");
+
+  // Empty records cost far more memory than their text: a document of
+  // nothing else is refused before its design is made.
+  std::string sections;
+  for (int i = 0; i < 400000; ++i) sections += i ? ",{}" : "{}";
+  DocumentProblem amplified = ProblemOf(
+      R"({"format":"design-model","formatVersion":1,"results":{"sections":[)" + sections + "]}}");
+  EXPECT_EQ(amplified.iError, -3);
+  EXPECT_EQ(amplified.sPointer, "/results/sections");
+}
+
+TEST(DesignDocumentOpening, UnknownMembersAreIgnoredEverywhere) {
+  DocumentProblem problem = ProblemOf(
+      R"({"format":"design-model","formatVersion":1,"generator":{"x":[1,2]},
+          "input":{"own":"x","alignments":[{"id":1,"colour":"red",
+            "horizontalLineElements":[{"startChainage":0,"note":[null]}]}]},
+          "results":{"sections":[{"model":{"extra":1},"terrain":{"source":"laser"}}]}})");
+  EXPECT_EQ(problem.iError, 0);
+}
+
+}  // namespace
+}  // namespace NpDesignModel
