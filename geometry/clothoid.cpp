@@ -14,6 +14,11 @@ constexpr double kWeights[5] = {0.2955242247147529, 0.2692667193099963, 0.219086
 
 // Largest turn of one integration step, in radians.
 constexpr double kStepTurn = 0.5;
+// The most a clothoid may turn, in radians. A road element turns a few
+// radians at most; a file that asks for more than this is not taken, which
+// also bounds the integration steps below.
+constexpr double kMaxTurn = 200.0;
+constexpr double kMaxSteps = 2.0 * kMaxTurn / kStepTurn;
 
 double dLocalCurvatureAt(const VgClothoid& c, double t) {
   if (!(c.dLocalLength > 0.0)) return c.dStartCurvature;
@@ -32,8 +37,9 @@ void vLocalIntegral(const VgClothoid& c, double t0, double t1, double* ix, doubl
   const double span = t1 - t0;
   const double maxCurvature =
       std::max(std::fabs(dLocalCurvatureAt(c, t0)), std::fabs(dLocalCurvatureAt(c, t1)));
-  const int steps =
-      std::max(1, static_cast<int>(std::ceil(maxCurvature * std::fabs(span) / kStepTurn)));
+  const double wanted = std::ceil(maxCurvature * std::fabs(span) / kStepTurn);
+  // NaN and absurd turns integrate in the bounded number of steps.
+  const int steps = wanted >= 1.0 ? static_cast<int>(std::min(wanted, kMaxSteps)) : 1;
   const double step = span / steps;
   double sumX = 0.0, sumY = 0.0;
   for (int i = 0; i < steps; ++i) {
@@ -86,6 +92,8 @@ bool boVgClothoidFit(double x0, double y0, double x1, double y1, double startRad
   } else {
     c.dLocalLength = chord;
   }
+  const double turn = std::max(std::fabs(k1), std::fabs(k2)) * c.dLocalLength;
+  if (!std::isfinite(c.dLocalLength) || !(turn <= kMaxTurn)) return false;
   double ex, ey;
   vLocalIntegral(c, 0.0, c.dLocalLength, &ex, &ey);
   const double span = std::hypot(ex, ey);

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <numbers>
 
+#include "geometry/clothoid.h"
 #include "geometry/line.h"
 #include "geometry/line_measure.h"
 
@@ -215,4 +216,12 @@ TEST(Clothoid, StaysWithinAMicrometreOverAKilometre) {
   for (int i = 0; i <= 100000; ++i) maxX = std::max(maxX, FresnelPoint(i * 0.01, a).x);
   EXPECT_NEAR(extent.dMaxX, 1000.0 + maxX, 1e-6);
   EXPECT_GT(extent.dMaxX, 1000.0 + end.x + 1.0);
+}
+
+TEST(Clothoid, RefusesATurnNoRoadCanHave) {
+  // From a straight to a radius of 1 mm with A = 1: a thousand metres that
+  // would turn a million radians. Such a record is refused, not integrated.
+  VgClothoid clothoid{};
+  EXPECT_FALSE(boVgClothoidFit(0.0, 0.0, 100.0, 0.0, 0.0, 0.001, 1.0, &clothoid));
+  EXPECT_TRUE(boVgClothoidFit(0.0, 0.0, 100.0, 10.0, 0.0, 300.0, 150.0, &clothoid));
 }
