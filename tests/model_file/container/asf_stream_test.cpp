@@ -1,0 +1,78 @@
+// Memory and file streams under the container.
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "model_file/container/asf_stream.h"
+
+TEST(AsfStream, MemoryBlockGrowsByAGrowingStep) {
+  AsfStream* stream = AsfStreamCreateMem();
+  ASSERT_NE(stream, nullptr);
+  EXPECT_EQ(stream->pMem->uCapacity, kAsfMemStep);
+  std::string chunk(kAsfMemStep, 'x');
+  EXPECT_EQ(uAsfStreamWrite(stream, chunk.data(), chunk.size()), chunk.size());
+  EXPECT_EQ(stream->pMem->uCapacity, kAsfMemStep);
+  EXPECT_EQ(uAsfStreamWrite(stream, "y", 1), 1u);
+  // The step grows by half of itself, then fills the need.
+  EXPECT_EQ(stream->pMem->uStep, kAsfMemStep * 3 / 2);
+  EXPECT_EQ(stream->pMem->uCapacity, kAsfMemStep + kAsfMemStep * 3 / 2);
+  EXPECT_EQ(lAsfStreamSize(stream), static_cast<int64_t>(kAsfMemStep + 1));
+
+  // Overwriting in place keeps the length; a write behind the end leaves
+  // zeroes in the gap.
+  EXPECT_TRUE(boAsfStreamSeek(stream, 0, 0));
+  EXPECT_EQ(uAsfStreamWrite(stream, "ab", 2), 2u);
+  EXPECT_EQ(lAsfStreamSize(stream), static_cast<int64_t>(kAsfMemStep + 1));
+  EXPECT_TRUE(boAsfStreamSeek(stream, 2, 2));
+  EXPECT_EQ(uAsfStreamWrite(stream, "z", 1), 1u);
+  const unsigned char* data = stream->pMem->pData;
+  EXPECT_EQ(data[0], 'a');
+  EXPECT_EQ(data[kAsfMemStep], 'y');
+  EXPECT_EQ(data[kAsfMemStep + 1], 0);
+  EXPECT_EQ(data[kAsfMemStep + 3], 'z');
+  EXPECT_TRUE(boAsfStreamClose(stream));
+}
+
+TEST(AsfStream, ReadOnlyBlockReadsWhatIsLeftAndRefusesWrites) {
+  const char bytes[] = "0123456789";
+  AsfStream* stream = AsfStreamOpenMem(bytes, 10);
+  char out[16] = {};
+  EXPECT_TRUE(boAsfStreamSeek(stream, 4, 0));
+  EXPECT_TRUE(boAsfStreamSeek(stream, 2, 1));
+  EXPECT_EQ(uAsfStreamRead(stream, out, sizeof out), 4u);
+  EXPECT_EQ(std::string(out, 4), "6789");
+  EXPECT_EQ(uAsfStreamRead(stream, out, sizeof out), 0u);
+  // Positions outside the block read nothing.
+  EXPECT_TRUE(boAsfStreamSeek(stream, -20, 2));
+  EXPECT_EQ(uAsfStreamRead(stream, out, sizeof out), 0u);
+  EXPECT_TRUE(boAsfStreamSeek(stream, 50, 0));
+  EXPECT_EQ(uAsfStreamRead(stream, out, sizeof out), 0u);
+  EXPECT_EQ(lAsfStreamTell(stream), 50);
+  EXPECT_TRUE(boAsfStreamSeek(stream, 0, 0));
+  EXPECT_EQ(uAsfStreamWrite(stream, "x", 1), 0u);
+  EXPECT_EQ(bytes[0], '0');
+  EXPECT_TRUE(boAsfStreamClose(stream));
+}
+
+TEST(AsfStream, FileStreamSeeksAndSizes) {
+  std::string path = testing::TempDir() + "asf_stream_file.bin";
+  AsfStream* stream = AsfStreamOpenFile(path.c_str(), "wb");
+  ASSERT_NE(stream, nullptr);
+  EXPECT_EQ(uAsfStreamWrite(stream, "hello world", 11), 11u);
+  EXPECT_TRUE(boAsfStreamSeek(stream, 0, 0));
+  EXPECT_EQ(uAsfStreamWrite(stream, "J", 1), 1u);
+  EXPECT_TRUE(boAsfStreamSeek(stream, 0, 2));
+  EXPECT_EQ(lAsfStreamTell(stream), 11);
+  EXPECT_TRUE(boAsfStreamClose(stream));
+
+  stream = AsfStreamOpenFile(path.c_str(), "rb");
+  ASSERT_NE(stream, nullptr);
+  EXPECT_EQ(lAsfStreamSize(stream), 11);
+  EXPECT_EQ(lAsfStreamTell(stream), 0);
+  char out[12] = {};
+  EXPECT_EQ(uAsfStreamRead(stream, out, 11), 11u);
+  EXPECT_STREQ(out, "Jello world");
+  EXPECT_TRUE(boAsfStreamClose(stream));
+  EXPECT_EQ(AsfStreamOpenFile("/no-such-folder/x", "rb"), nullptr);
+  EXPECT_EQ(lAsfStreamSize(nullptr), -1);
+}
