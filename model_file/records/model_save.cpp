@@ -1,0 +1,46 @@
+// Saving a road model file without ever putting a partly written file in
+// the place of a good one: the model is written under a temporary "$$$_"
+// name, and only a complete file takes the target's place.
+#include <string>
+
+#include "base/file_times.h"
+#include "base/platform.h"
+#include "base/temp_files.h"
+#include "model_file/records/model_file.h"
+#include "road_model/model.h"
+
+namespace {
+
+// Writes the model under a new temporary name, in the system's folder for
+// temporary files when `useSystemFolder` is set (and allowed), else beside
+// the target. The written file's name, or empty when none could be made or
+// the writing failed. A failed write in the system's folder is removed;
+// one beside the target stays.
+std::string sWriteTemporary(const RmModel* model, const char* target, bool useSystemFolder) {
+  std::string temporary = sTempFileNear(target, useSystemFolder);
+  if (temporary.empty()) return temporary;
+  if (boRmModelWrite(model, temporary.c_str())) return temporary;
+  if (useSystemFolder) boPlatformDeleteFile(temporary.c_str());
+  return std::string();
+}
+
+}  // namespace
+
+bool boRmModelSave(RmModel* model, const char* path) {
+  if (!model) return false;
+  if (path) vRmModelSetFileName(model, path);
+  const char* target = model->FileName;
+  if (!*target) return false;
+
+  std::string temporary = sWriteTemporary(model, target, true);
+  if (temporary.empty()) temporary = sWriteTemporary(model, target, false);
+  if (temporary.empty()) return false;
+  // The move replaces the target in one step; if it fails, the old file
+  // stays and the new one lies under the temporary name.
+  if (!boPlatformMoveFile(temporary.c_str(), target)) return false;
+
+  vRmModelSetDirty(model, false);
+  int64_t writeTime = 0;
+  if (boFileGetTime(target, &writeTime)) model->FileTime = static_cast<uint64_t>(writeTime);
+  return true;
+}

@@ -1,0 +1,20 @@
+#include "road_model/section_heights.h"
+
+#include <atomic>
+
+namespace {
+
+std::atomic<RmSectionHeightsSource> installedSource{nullptr};
+
+}  // namespace
+
+RmSectionHeightsSource pfnRmSetSectionHeightsSource(RmSectionHeightsSource source) {
+  return installedSource.exchange(source);
+}
+
+bool boRmGetSectionHeights(const RmModel* model, double chain, RmSectionHeights* heights) {
+  RmSectionHeightsSource source = installedSource.load();
+  if (!source || !model || !heights) return false;
+  *heights = RmSectionHeights{};
+  return source(model, chain, heights);
+}

@@ -1,0 +1,105 @@
+// Helpers of the model file tests: texts with CR LF line ends, models
+// written to memory and read back from bytes, and a catcher of message
+// boxes.
+#pragma once
+
+#include <initializer_list>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "base/platform.h"
+#include "model_file/container/asf_file.h"
+#include "model_file/records/model_file.h"
+#include "road_model/model.h"
+
+struct ModelDeleter {
+  void operator()(RmModel* model) const { vRmModelDelete(model); }
+};
+using ModelPtr = std::unique_ptr<RmModel, ModelDeleter>;
+
+inline ModelPtr NewModel() { return ModelPtr(RmModelCreate()); }
+
+// The lines, each ended by CR LF.
+inline std::string sCrLf(std::initializer_list<std::string> lines) {
+  std::string text;
+  for (const std::string& line : lines) text += line + "\r\n";
+  return text;
+}
+
+// The `_EXTENT` placeholder of an empty extent, as a finished file holds it.
+inline std::string sEmptyExtentLine() {
+  std::string line = "_EXTENT 99999999 99999999 -99999999 -99999999 ";
+  return line + std::string(70 - line.size(), '!');
+}
+
+// The head of a model file with these head keys and these O sections.
+inline std::string sModelHead(std::initializer_list<std::string> keys,
+                              std::initializer_list<std::string> sections) {
+  std::string head = sCrLf({"[KVRFILE_ASCII]", "_VERSION 2", "_FILETYPE sfi",
+                            "_INDEX !!!!!!!!!!!!!!!!!!!!", sEmptyExtentLine()});
+  for (const std::string& key : keys) head += key + "\r\n";
+  for (const std::string& section : sections) head += "[O_" + section + "]\r\n";
+  return head;
+}
+
+// The model as a file written to memory.
+inline std::string sWrittenModel(const RmModel* model) {
+  AsfFile* file = AsfFileCreate(nullptr);
+  std::string bytes;
+  if (boRmModelWriteFile(file, model) && boAsfFileFinish(file)) {
+    const char* data = nullptr;
+    size_t size = 0;
+    if (boAsfMemGet(file, &data, &size)) bytes.assign(data, size);
+  }
+  vAsfFileClose(file);
+  return bytes;
+}
+
+// The body of the O section `name` in a written file: the lines behind its
+// head up to the next line that starts with "[".
+inline std::string sSectionBody(const std::string& bytes, const std::string& name) {
+  std::string head = "[+O_" + name + "]\r\n";
+  size_t start = bytes.find(head);
+  if (start == std::string::npos) return "<none>";
+  start += head.size();
+  size_t end = start;
+  while (end < bytes.size() && bytes[end] != '[') {
+    size_t next = bytes.find("\r\n", end);
+    end = next == std::string::npos ? bytes.size() : next + 2;
+  }
+  return bytes.substr(start, end - start);
+}
+
+// A model read from the bytes of a file, as a load reads it; null when the
+// bytes are no model file.
+inline ModelPtr ReadModel(const std::string& bytes) {
+  AsfFile* file = AsfFileOpenMem(bytes.data(), bytes.size());
+  if (!file) return nullptr;
+  ModelPtr model = NewModel();
+  bool accepted = boRmModelFileAccepted(file, "mem");
+  if (accepted) vRmModelRead(file, model.get(), "mem");
+  vAsfFileClose(file);
+  return accepted ? std::move(model) : nullptr;
+}
+
+// Collects the texts of message boxes while it lives.
+class MessageCatcher {
+ public:
+  MessageCatcher() { previous_ = pfnPlatformSetMessageHandler(&Catch); }
+  ~MessageCatcher() {
+    pfnPlatformSetMessageHandler(previous_);
+    Texts().clear();
+  }
+  static std::vector<std::string>& Texts() {
+    static std::vector<std::string> texts;
+    return texts;
+  }
+
+ private:
+  static int Catch(const char* text, const char*, unsigned int) {
+    Texts().push_back(text ? text : "");
+    return kIdOk;
+  }
+  PlatformMessageHandler previous_;
+};
