@@ -1,6 +1,5 @@
 #include "model_file/container/asf_element_block.h"
 
-#include <cmath>
 #include <cstdio>
 #include <cstring>
 
@@ -149,29 +148,16 @@ struct PendingElement {
   bool boLarge;
 };
 
-// Whether a clothoid of these radii and parameter turns within a bound that
-// no transition curve comes near. The geometry library lays a clothoid out
-// in steps of half a radian of turning, so that absurd numbers in a damaged
-// file would cost it without limit.
-bool boClothoidTurnsWithinBound(const double params[3]) {
-  constexpr double kMaxTurn = 100.0;
-  double startCurvature = params[0] != 0.0 ? 1.0 / params[0] : 0.0;
-  double endCurvature = params[1] != 0.0 ? 1.0 / params[1] : 0.0;
-  double length = params[2] * params[2] * std::fabs(endCurvature - startCurvature);
-  double sharpest = std::fmax(std::fabs(startCurvature), std::fabs(endCurvature));
-  return sharpest * length <= kMaxTurn;
-}
-
 void vApply(LiLine* line, PendingElement* pending) {
   switch (pending->iType) {
     case kLiElmArc2p:
       boLiElmSet2pArc(line, pending->elm, pending->adParam[0], pending->boLarge);
       break;
     case kLiElmClothoid:
-      if (boClothoidTurnsWithinBound(pending->adParam)) {
-        boLiElmSetClotoide(line, pending->elm, pending->adParam[0], pending->adParam[1],
-                           pending->adParam[2]);
-      }
+      // A clothoid that no road could have is refused by the geometry
+      // library, and the element stays straight.
+      boLiElmSetClotoide(line, pending->elm, pending->adParam[0], pending->adParam[1],
+                         pending->adParam[2]);
       break;
     case kLiElmInvisible:
       boLiElmSetType(line, pending->elm, kLiElmInvisible);
