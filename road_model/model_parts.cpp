@@ -7,9 +7,11 @@
 #include "road_model/hyperlinks.h"
 #include "road_model/model.h"
 #include "road_model/model_lines.h"
+#include "road_model/model_sections.h"
 #include "road_model/road_dim_params.h"
 #include "road_model/sect_params.h"
 #include "road_model/sect_triangulation_params.h"
+#include "road_model/section_set.h"
 
 namespace {
 
@@ -97,6 +99,14 @@ using SectParamsSlot = Slot<&RmModel::SectParams, &RmModel::SectParamsPending,
 using SectTriangulationParamsSlot =
     Slot<&RmModel::SectTriangulationParams, nullptr, RmSectTriangulationParamsCreate,
          vRmSectTriangulationParamsDelete, vRmSectTriangulationParamsCopy>;
+// A section set is copied whole, every layer with it.
+void vCopyWholeSectionSet(RmSectionSet* to, const RmSectionSet* from) {
+  vRmSectionSetCopy(to, from, kRmAllLayers);
+}
+using CrossSectionsSlot = Slot<&RmModel::CrossSections, &RmModel::CrossSectionsPending,
+                               RmSectionSetCreate, vRmSectionSetDelete, vCopyWholeSectionSet>;
+using LongSectionsSlot = Slot<&RmModel::LongSections, &RmModel::LongSectionsPending,
+                              RmSectionSetCreate, vRmSectionSetDelete, vCopyWholeSectionSet>;
 using RoadDimParamsSlot = Slot<&RmModel::RoadDimParams, &RmModel::RoadDimParamsPending,
                                RmRoadDimParamsCreate, vRmRoadDimParamsDelete,
                                vRmRoadDimParamsCopy>;
@@ -118,6 +128,8 @@ constexpr RmModelPart kParts[] = {
                 vRmModelCopyLines, false},
     SectParamsSlot::Row(kCreatedAtInit),
     SectTriangulationParamsSlot::Row(),
+    CrossSectionsSlot::Row(),
+    LongSectionsSlot::Row(),
     RoadDimParamsSlot::Row(),
 };
 
@@ -205,4 +217,93 @@ void vRmModelCommitRoadDimParams(RmModel* model) {
 
 void vRmModelDiscardRoadDimParams(RmModel* model) {
   if (model) RoadDimParamsSlot::DiscardPending(model);
+}
+
+// ---- The section sets ----
+
+namespace {
+
+// A set handed to a slot carries the slot's kind.
+void vStampKind(RmSectionSet* set, int32_t kind) {
+  if (set) set->Kind = kind;
+}
+
+}  // namespace
+
+RmSectionSet* RmModelGetCrossSections(const RmModel* model) {
+  return model ? model->CrossSections : nullptr;
+}
+
+void vRmModelSetCrossSections(RmModel* model, RmSectionSet* set) {
+  if (!model) return;
+  vStampKind(set, kRmCrossSections);
+  CrossSectionsSlot::Replace(&model->CrossSections, set);
+}
+
+RmSectionSet* RmModelGetOrCreateCrossSections(RmModel* model) {
+  if (model && !model->CrossSections) vRmModelSetCrossSections(model, RmSectionSetCreate());
+  return RmModelGetCrossSections(model);
+}
+
+RmSectionSet* RmModelGetCrossSectionsPending(const RmModel* model) {
+  return model ? model->CrossSectionsPending : nullptr;
+}
+
+RmSectionSet* RmModelGetCrossSectionsEffective(const RmModel* model) {
+  if (!model) return nullptr;
+  return model->CrossSectionsPending ? model->CrossSectionsPending : model->CrossSections;
+}
+
+RmSectionSet* RmModelPrepareCrossSections(RmModel* model) {
+  if (!model) return nullptr;
+  RmSectionSet* pending = CrossSectionsSlot::Prepare(model);
+  vStampKind(pending, kRmCrossSections);
+  return pending;
+}
+
+void vRmModelCommitCrossSections(RmModel* model) {
+  if (model) CrossSectionsSlot::Commit(model);
+}
+
+void vRmModelDiscardCrossSections(RmModel* model) {
+  if (model) CrossSectionsSlot::DiscardPending(model);
+}
+
+RmSectionSet* RmModelGetLongSections(const RmModel* model) {
+  return model ? model->LongSections : nullptr;
+}
+
+void vRmModelSetLongSections(RmModel* model, RmSectionSet* set) {
+  if (!model) return;
+  vStampKind(set, kRmLongSections);
+  LongSectionsSlot::Replace(&model->LongSections, set);
+}
+
+RmSectionSet* RmModelGetOrCreateLongSections(RmModel* model) {
+  if (model && !model->LongSections) vRmModelSetLongSections(model, RmSectionSetCreate());
+  return RmModelGetLongSections(model);
+}
+
+RmSectionSet* RmModelGetLongSectionsPending(const RmModel* model) {
+  return model ? model->LongSectionsPending : nullptr;
+}
+
+RmSectionSet* RmModelGetLongSectionsEffective(const RmModel* model) {
+  if (!model) return nullptr;
+  return model->LongSectionsPending ? model->LongSectionsPending : model->LongSections;
+}
+
+RmSectionSet* RmModelPrepareLongSections(RmModel* model) {
+  if (!model) return nullptr;
+  RmSectionSet* pending = LongSectionsSlot::Prepare(model);
+  vStampKind(pending, kRmLongSections);
+  return pending;
+}
+
+void vRmModelCommitLongSections(RmModel* model) {
+  if (model) LongSectionsSlot::Commit(model);
+}
+
+void vRmModelDiscardLongSections(RmModel* model) {
+  if (model) LongSectionsSlot::DiscardPending(model);
 }

@@ -2,9 +2,11 @@
 
 #include <atomic>
 
+#include "road_model/section_center_height.h"
+
 namespace {
 
-std::atomic<RmSectionHeightsSource> installedSource{nullptr};
+std::atomic<RmSectionHeightsSource> installedSource{boRmCrossSectionHeights};
 
 }  // namespace
 

@@ -2,9 +2,11 @@
 // them inside a range of differential altitudes.
 //
 // The cross sections live in the section set of the model. The vertical line
-// code asks for them through one process-wide source function, which the
-// section set installs; with no source installed a model has no cross
-// sections to offer, and the vertical lines give their own heights.
+// code asks for them through one process-wide source function, which starts
+// as the model's own cross sections (boRmCrossSectionHeights in
+// section_center_height.h); tests may install another. With no source
+// installed a model has no cross sections to offer, and the vertical lines
+// give their own heights.
 #pragma once
 
 struct RmModel;

@@ -7,10 +7,13 @@
 #include "parameters/factory_settings.h"
 #include "road_model/model.h"
 #include "road_model/model_lines.h"
+#include "vips_import/alignments.h"
 #include "vips_import/connected_models.h"
+#include "vips_import/elevation_differences.h"
 #include "vips_import/external_converter.h"
 #include "vips_import/import_log.h"
 #include "vips_import/open_errors.h"
+#include "vips_import/section_finishing.h"
 #include "vips_import/version_labels.h"
 #include "vips_import/wide_text.h"
 
@@ -87,6 +90,23 @@ void vResetModel(VipsImportRun& run) {
 // flags ask for are read anew, the others are gone.
 void vEmptyPlanLines(VipsImportRun& run) { vRmLinesClear(RmModelGetOrCreateLines(run.model)); }
 
+// The reference alignment's plan geometry.
+void vReadMainHorizontal(VipsImportRun& run) {
+  iVipsReadAlignments(run.in, run.log, run.model, 1, 1, 0);
+}
+
+// The reference alignment's profile, and the stretches where the sections
+// override it; a blank line in the log when the design has none.
+void vReadMainVertical(VipsImportRun& run) {
+  iVipsReadAlignments(run.in, run.log, run.model, 1, 0, 1);
+  if (!boVipsReadElevationDifferences(run.in, run.log, run.model)) vVipsLogPrint(run.log, "\n");
+}
+
+// Every other alignment, plan and profile together.
+void vReadExtraAlignments(VipsImportRun& run) {
+  iVipsReadAlignments(run.in, run.log, run.model, 0, 1, 1);
+}
+
 void vStartTables(VipsImportRun& run) {
   run.rehabUsed = 0;
   vRmModelSetCalcMode(run.model, 0);
@@ -95,7 +115,12 @@ void vStartTables(VipsImportRun& run) {
 void vReadConnectedModels(VipsImportRun& run) { iVipsReadConnectedModels(run.in, run.log); }
 
 // Sets the sections apart from the tables in the log.
+// Sections are always made anew by the readers of the result side.
+void vClearSections(VipsImportRun& run) { vVipsClearSections(run.model); }
+
 void vLogSectionsStart(VipsImportRun& run) { vVipsLogPrint(run.log, "\n"); }
+
+void vFitSectionsToMainLine(VipsImportRun& run) { vVipsFitSectionsToMainLine(run.model); }
 
 // Rehabilitation data is not imported; the log says so, and the import
 // goes on.
@@ -115,12 +140,12 @@ constexpr VipsImportStep kImportSteps[] = {
     {0, VipsStepNeeds::kInput, vLogModelHeader},
     {kVipsImportFull, VipsStepNeeds::kInput, vResetModel},
     {0, VipsStepNeeds::kInput, vEmptyPlanLines},
-    // Alignments, each pass over the design's alignments on its own flag:
-    //   kVipsImportHorizontal: iVipsReadAlignments(in, log, model, 1, 1, 0)
-    //   kVipsImportVertical: iVipsReadAlignments(in, log, model, 1, 0, 1), then
-    //     boVipsReadElevationDifferences(in, log, model) and a line feed in
-    //     the log when it found no row
-    //   kVipsImportExtraAlignments: iVipsReadAlignments(in, log, model, 0, 1, 1)
+    // Alignments, each pass over the design's alignments on its own flag.
+    // The main line is marked in the first pass, before the elevation
+    // differences look for it.
+    {kVipsImportHorizontal, VipsStepNeeds::kInput, vReadMainHorizontal},
+    {kVipsImportVertical, VipsStepNeeds::kInput, vReadMainVertical},
+    {kVipsImportExtraAlignments, VipsStepNeeds::kInput, vReadExtraAlignments},
 
     // The tables, also when the design gave no object:
     //   a new, empty RmSurfGen in place of the model's (kNothing)
@@ -135,7 +160,7 @@ constexpr VipsImportStep kImportSteps[] = {
     //   iVipsReadTopSoilRemovals, iVipsReadSoftSpotRemovals
 
     // Sections, always rebuilt from scratch:
-    //   clearing CrossSections and LongSections (kDesign)
+    {kVipsImportTables, VipsStepNeeds::kDesign, vClearSections},
     {kVipsImportTables, VipsStepNeeds::kDesign, vLogSectionsStart},
     //   then, on the result side, vVipsReadPhysicalProfiles,
     //   vVipsReadMiscLayers and vVipsReadTheoreticalProfiles (with the
@@ -144,9 +169,10 @@ constexpr VipsImportStep kImportSteps[] = {
     {kVipsImportTables, VipsStepNeeds::kDesign, vWarnOfRehabilitation},
 
     // Finishing, over all tables at once (kNothing):
-    //   vVipsAddFreeSurfaces(surfGen); the section width (DISTLEFT,
-    //   DISTRIGHT) from the extent of the layers of types 4 and 3, and the
-    //   cross sections placed on the main line.
+    //   vVipsAddFreeSurfaces(surfGen), then the section width (DISTLEFT,
+    //   DISTRIGHT) from the layers of types 4 and 3, and the cross sections
+    //   placed on the main line:
+    {kVipsImportTables, VipsStepNeeds::kNothing, vFitSectionsToMainLine},
 };
 
 }  // namespace

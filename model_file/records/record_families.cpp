@@ -6,6 +6,7 @@
 #include "model_file/container/asf_file.h"
 #include "model_file/records/head_records.h"
 #include "model_file/records/line_records.h"
+#include "model_file/records/section_records.h"
 
 namespace {
 
@@ -27,6 +28,14 @@ constexpr RmRecordFamily kFamilies[] = {
      vRmSectParamsRead},
     {"SECTTRIANGULATIONPARAMS", kAsfTypeOther, boRmSectTriangulationParamsPresent,
      vRmSectTriangulationParamsWrite, vRmSectTriangulationParamsRead},
+    {"CROSSECTIONS", kAsfTypeOther, boRmCrossSectionsPresent, vRmCrossSectionsWrite,
+     vRmCrossSectionsRead},
+    {"CSECTSMASSESLINES", kAsfTypeLine, boRmCrossMassLinesPresent, vRmCrossMassLinesWrite,
+     vRmCrossMassLinesRead, vRmCrossMassLinesPrepare},
+    {"LONGSECTIONS", kAsfTypeOther, boRmLongSectionsPresent, vRmLongSectionsWrite,
+     vRmLongSectionsRead},
+    {"LSECTSMASSESLINES", kAsfTypeLine, boRmLongMassLinesPresent, vRmLongMassLinesWrite,
+     vRmLongMassLinesRead, vRmLongMassLinesPrepare},
     {"ROADDIMPARAMS", kAsfTypeOther, boRmRoadDimParamsPresent, vRmRoadDimParamsWrite,
      vRmRoadDimParamsRead},
     {"MASSCALC", kAsfTypeOther, nullptr, vRmMassCalcWrite, vRmMassCalcRead},
@@ -37,6 +46,7 @@ constexpr std::string_view kReadOrder[] = {
     "ADMDATA",       "HYPERLINKSDATA", "",
     "VERLINE",       "DIFFALTITUDES",  "CHAINEQUATIONS",
     "SECTPARAMS",    "SECTTRIANGULATIONPARAMS",
+    "CROSSECTIONS",  "CSECTSMASSESLINES", "LONGSECTIONS", "LSECTSMASSESLINES",
     "ROADDIMPARAMS", "MASSCALC",
 };
 

@@ -65,8 +65,11 @@ std::string sCanonical(const ScratchFolder& folder) {
   return fs::canonical(folder.path()).string();
 }
 
-const std::string kFullLog =
-    sLogHead("Np21", "Road", "10.0") + "Leser tabell: Min. gr\xF8" "fte dybde\n\n";
+// A full import of a design without alignments or tables.
+const std::string kFullLog = sLogHead("Np21", "Road", "10.0") +
+                             "  Leser tabell: Overstyring av vertikalkurvatur\n\n\n"
+                             "Leser ekstra linjer\n"
+                             "Leser tabell: Min. gr\xF8" "fte dybde\n\n";
 
 TEST(ExternalConverter, SuccessGoesOnToOpenTheDesign) {
   ScratchFolder folder;

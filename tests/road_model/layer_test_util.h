@@ -1,0 +1,71 @@
+// Helpers of the layer and section tests: free layers made from rows of
+// points, and the offsets, heights and codes of a layer as vectors.
+#pragma once
+
+#include <initializer_list>
+#include <memory>
+#include <vector>
+
+#include "road_model/layer.h"
+
+struct LayerDeleter {
+  void operator()(RmLayer* layer) const { vRmLayerDeleteFree(layer); }
+};
+using LayerPtr = std::unique_ptr<RmLayer, LayerDeleter>;
+
+// One point: offset, height, PCODE, and optionally radius and mark.
+struct PointRow {
+  double X;
+  double Z;
+  int Pcode = 0;
+  double Radius = 0.0;
+  int Mark = 0;
+};
+
+inline constexpr double kGap = -99999.0;
+
+inline void vAddRows(RmLayer* layer, std::initializer_list<PointRow> rows) {
+  for (const PointRow& row : rows) {
+    RmPoint* point = RmPointAdd(layer, nullptr, row.X, row.Z, row.Pcode);
+    point->Radius = static_cast<float>(row.Radius);
+    vRmPointSetMark(point, row.Mark);
+  }
+}
+
+inline LayerPtr MakeLayer(RmLayerId id, std::initializer_list<PointRow> rows) {
+  LayerPtr layer(RmLayerCreateFree());
+  layer->Id = id;
+  vAddRows(layer.get(), rows);
+  return layer;
+}
+
+inline std::vector<double> Offsets(const RmLayer* layer) {
+  std::vector<double> offsets;
+  for (const RmPoint* point = RmPointsGetFirst(layer); point; point = point->Next) {
+    offsets.push_back(point->X);
+  }
+  return offsets;
+}
+
+inline std::vector<double> Heights(const RmLayer* layer) {
+  std::vector<double> heights;
+  for (const RmPoint* point = RmPointsGetFirst(layer); point; point = point->Next) {
+    heights.push_back(point->Z);
+  }
+  return heights;
+}
+
+inline std::vector<int> Codes(const RmLayer* layer) {
+  std::vector<int> codes;
+  for (const RmPoint* point = RmPointsGetFirst(layer); point; point = point->Next) {
+    codes.push_back(iRmPointGetPcode(point));
+  }
+  return codes;
+}
+
+// The points of the layer from its first, by index.
+inline RmPoint* At(const RmLayer* layer, int index) {
+  RmPoint* point = RmPointsGetFirst(layer);
+  while (point && index-- > 0) point = point->Next;
+  return point;
+}

@@ -1,0 +1,80 @@
+// What the tests of the alignment import share: designs built in memory,
+// a log that can be read back, and models that delete themselves.
+#pragma once
+
+#include <cstdio>
+#include <memory>
+#include <string>
+
+#include "design_model/design_model_builder.h"
+#include "road_model/model.h"
+
+struct ModelDeleter {
+  void operator()(RmModel* model) const { vRmModelDelete(model); }
+};
+using ModelPtr = std::unique_ptr<RmModel, ModelDeleter>;
+
+// A horizontal element from (x0, y0) at `startChain` to (x1, y1) at
+// `endChain`, with the radii at both ends and the clothoid parameter.
+inline void vAddElement(NpDesignModel::AlignmentRecord& alignment, double startChain,
+                        double endChain, double x0, double y0, double x1, double y1,
+                        double startRadius = 0.0, double endRadius = 0.0, double a = 0.0) {
+  NpDesignModel::HorizontalLineElementRecord& element =
+      alignment.horizontalLineElements.emplace_back();
+  element.elementNo = static_cast<int32_t>(alignment.horizontalLineElements.size());
+  element.startChainage = startChain;
+  element.endChainage = endChain;
+  element.startEast = x0;
+  element.startNorth = y0;
+  element.endEast = x1;
+  element.endNorth = y1;
+  element.startRadius = startRadius;
+  element.endRadius = endRadius;
+  element.clothoidParameter = a;
+}
+
+inline void vAddAnglePoint(NpDesignModel::AlignmentRecord& alignment, double chain,
+                           double elevation, double radius = 0.0) {
+  NpDesignModel::VerticalLineAnglePointRecord& point =
+      alignment.verticalLineAnglePoints.emplace_back();
+  point.chainage = chain;
+  point.elevation = elevation;
+  point.radius = radius;
+}
+
+inline void vAddElevationDifference(NpDesignModel::InDataRecord& input, double from, double to,
+                                    double difference) {
+  NpDesignModel::ElevationDifferenceRecord& row = input.elevationDifferences.emplace_back();
+  row.fromChainage = from;
+  row.toChainage = to;
+  row.difference = difference;
+}
+
+// A log in a temporary file, whose text can be read at any time.
+class LogStream {
+ public:
+  LogStream() : file_(std::tmpfile()) {}
+  ~LogStream() {
+    if (file_) std::fclose(file_);
+  }
+  LogStream(const LogStream&) = delete;
+  LogStream& operator=(const LogStream&) = delete;
+
+  std::FILE* get() const { return file_; }
+
+  // Everything written so far.
+  std::string Text() const {
+    std::string text;
+    if (!file_) return text;
+    std::fflush(file_);
+    std::rewind(file_);
+    char buffer[4096];
+    size_t count;
+    while ((count = std::fread(buffer, 1, sizeof buffer, file_)) > 0) text.append(buffer, count);
+    std::fseek(file_, 0, SEEK_END);
+    return text;
+  }
+
+ private:
+  std::FILE* file_;
+};
