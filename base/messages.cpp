@@ -16,7 +16,7 @@ int iMessageBox(const char* text, const char* title, unsigned int type) {
   if (!text) text = "";
   if (!messagesInOem.load()) return iPlatformMessageBox(text, title, type | kMbTopmost);
   // The console's code page and the system's are one and the same here, so
-  // the conversion is a copy; the room for it is taken as the original does.
+  // the conversion is a copy; the room for it is taken as on Windows.
   size_t length = std::strlen(text);
   char small[100];
   char* converted = length + 10 < 101 ? small : static_cast<char*>(std::malloc(length + 10));

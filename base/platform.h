@@ -10,7 +10,7 @@
 
 // ---- Message boxes ---------------------------------------------------------
 
-// Box type bits and results, with the values of the original platform.
+// Box type bits and results, with the values that Windows gives them.
 enum : unsigned int {
   kMbOk = 0x0,
   kMbOkCancel = 0x1,

@@ -212,7 +212,7 @@ bool boPlatformErrorText(int code, char* out, size_t size) {
   if (!out || size == 0) return false;
   out[0] = 0;
   char buffer[256];
-  // The sharing violation keeps the original platform's number, which is a
+  // The sharing violation keeps the number that Windows gives it, which is a
   // broken pipe here; files never raise that, so the number gets the
   // sharing violation's wording. The GNU form of strerror_r returns the
   // text, which may or may not be the buffer.
@@ -248,7 +248,7 @@ PlatformFile hPlatformFileOpen(const char* path, PlatformOpenMode mode, bool exc
   }
   int fd = open(path, flags, 0666);
   if (fd < 0) return fail(errno);
-  // A file held by another writer is the sharing violation of the original.
+  // A file held by another writer is the sharing violation of Windows.
   if (exclusive && flock(fd, LOCK_EX | LOCK_NB) != 0) {
     int error = errno == EWOULDBLOCK ? kPlatformSharingViolation : errno;
     close(fd);
@@ -439,7 +439,7 @@ bool boPlatformFullPath(const char* path, char* out, size_t size) {
     whole += '/';
   }
   whole += path;
-  // Resolve "." and ".." by text, as the original's full-path call does.
+  // Resolve "." and ".." by text alone: the file need not exist.
   std::vector<std::string> parts;
   size_t start = 0;
   while (start <= whole.size()) {
@@ -454,8 +454,11 @@ bool boPlatformFullPath(const char* path, char* out, size_t size) {
     start = end + 1;
   }
   std::string result;
-  for (const std::string& part : parts) result += "/" + part;
-  if (result.empty()) result = "/";
+  for (const std::string& part : parts) {
+    result += '/';
+    result += part;
+  }
+  if (result.empty()) result.push_back('/');
   if (whole.size() > 1 && whole.back() == '/' && result != "/") result += '/';
   return boCopyOut(result, out, size);
 }
