@@ -15,23 +15,25 @@ TEST(Dates, FormatsTodayAndNow) {
 }
 
 TEST(Dates, ParseFillsMissingFieldsWithZero) {
-  int y, m, d, h, mi, s;
-  bool dateOnly = false;
-  EXPECT_TRUE(boDateParse("2024.03.01_14:05:09", &y, &m, &d, &h, &mi, &s, &dateOnly));
-  EXPECT_EQ(y * 10000 + m * 100 + d, 20240301);
-  EXPECT_EQ(h * 10000 + mi * 100 + s, 140509);
-  EXPECT_FALSE(dateOnly);
-
-  EXPECT_TRUE(boDateParse("2024.03.01_14:05", &y, &m, &d, &h, &mi, &s, &dateOnly));
-  EXPECT_EQ(h * 10000 + mi * 100 + s, 140500);
-  EXPECT_FALSE(dateOnly);
-
-  EXPECT_TRUE(boDateParse("2024.3.1_14", &y, &m, &d, &h, &mi, &s, &dateOnly));
-  EXPECT_EQ(y * 10000 + m * 100 + d, 20240301);
-  EXPECT_EQ(h + mi + s, 0);
-  EXPECT_TRUE(dateOnly);
-
-  EXPECT_FALSE(boDateParse("2024.03", &y, &m, &d, &h, &mi, &s, &dateOnly));
+  struct Case {
+    const char* text;
+    bool parsed;
+    int date, time;
+    bool dateOnly;
+  };
+  for (const Case& c :
+       {Case{"2024.03.01_14:05:09", true, 20240301, 140509, false},
+        Case{"2024.03.01_14:05", true, 20240301, 140500, false},
+        Case{"2024.3.1_14", true, 20240301, 0, true}, Case{"2024.03", false, 0, 0, false}}) {
+    int y = -1, m = -1, d = -1, h = -1, mi = -1, s = -1;
+    bool dateOnly = !c.dateOnly;
+    EXPECT_EQ(boDateParse(c.text, &y, &m, &d, &h, &mi, &s, &dateOnly), c.parsed) << c.text;
+    EXPECT_EQ(y * 10000 + m * 100 + d, c.date) << c.text;
+    EXPECT_EQ(h * 10000 + mi * 100 + s, c.time) << c.text;
+    if (c.parsed) {
+      EXPECT_EQ(dateOnly, c.dateOnly) << c.text;
+    }
+  }
   EXPECT_FALSE(boDateParse(nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
                            nullptr));
 }

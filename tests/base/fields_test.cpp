@@ -4,39 +4,33 @@
 
 #include <cstring>
 #include <string>
+#include <vector>
 
 namespace {
 
+using Texts = std::vector<std::string>;
+
+// Every token that sTokenNext cuts out of `text`, as "name" or "name=value".
+Texts Tokens(char* text, char separator) {
+  Texts tokens;
+  char* value = nullptr;
+  while (char* token = sTokenNext(&text, &value, separator)) {
+    tokens.push_back(value ? std::string(token) + "=" + value : std::string(token));
+  }
+  EXPECT_EQ(*text, 0);
+  return tokens;
+}
+
 TEST(Tokens, ReadASettingsEntryWithItsTag) {
   char entry[] = "\"Two words\" other tag:(Field:ABC (x y) Name:\"a b\")  ";
-  char* cursor = entry;
-  char* value = nullptr;
-  EXPECT_STREQ(sTokenNext(&cursor, &value, 0), "Two words");
-  EXPECT_EQ(value, nullptr);
-  EXPECT_STREQ(sTokenNext(&cursor, &value, ':'), "other");
-  EXPECT_EQ(value, nullptr);
-  EXPECT_STREQ(sTokenNext(&cursor, &value, ':'), "tag");
-  ASSERT_NE(value, nullptr);
-  EXPECT_STREQ(value, "(Field:ABC (x y) Name:\"a b\")");
+  EXPECT_EQ(Tokens(entry, ':'),
+            (Texts{"Two words", "other", "tag=(Field:ABC (x y) Name:\"a b\")"}));
+  char value[] = "(Field:ABC (x y) Name:\"a b\")";
   char* tag = sTokenParens(value);
-  ASSERT_NE(tag, nullptr);
   EXPECT_STREQ(tag, "Field:ABC (x y) Name:\"a b\"");
-  EXPECT_EQ(sTokenNext(&cursor, &value, ':'), nullptr);
-
-  // The tag's own tokens.
-  cursor = tag;
-  EXPECT_STREQ(sTokenNext(&cursor, &value, ':'), "Field");
-  EXPECT_STREQ(value, "ABC");
-  EXPECT_STREQ(sTokenNext(&cursor, &value, ':'), "(x y)");
-  EXPECT_EQ(value, nullptr);
-  EXPECT_STREQ(sTokenNext(&cursor, &value, ':'), "Name");
-  EXPECT_STREQ(value, "a b");
-  EXPECT_EQ(sTokenNext(&cursor, &value, ':'), nullptr);
-
+  EXPECT_EQ(Tokens(tag, ':'), (Texts{"Field=ABC", "(x y)", "Name=a b"}));
   char plain[] = "Two words";
-  cursor = plain;
-  EXPECT_STREQ(sTokenNext(&cursor, &value, 0), "Two");
-  EXPECT_STREQ(sTokenNext(&cursor, &value, 0), "words");
+  EXPECT_EQ(Tokens(plain, 0), (Texts{"Two", "words"}));
 }
 
 TEST(Tokens, ParensOnlyWhenTheTextEndsWithTheClosingOne) {

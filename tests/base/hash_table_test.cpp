@@ -4,20 +4,10 @@
 
 #include <cstddef>
 #include <string>
-#include <vector>
 
-#include "base/platform.h"
+#include "tests/base/scratch_folder.h"
 
 namespace {
-
-std::vector<std::string> shownTexts;
-unsigned int shownType = 0;
-
-int iCaptureBox(const char* text, const char*, unsigned int type) {
-  shownTexts.emplace_back(text);
-  shownType = type;
-  return kIdOk;
-}
 
 struct Named {
   void* next;
@@ -101,8 +91,7 @@ TEST(HashTableTest, KeysInPlaceAndNumberKeys) {
 }
 
 TEST(HashTableTest, StatisticsText) {
-  shownTexts.clear();
-  PlatformMessageHandler old = pfnPlatformSetMessageHandler(iCaptureBox);
+  CapturedMessages shown;
   HashTable* table = HashCreate(5, offsetof(Record, longKey), kHashKeyUint32);
   Record records[3] = {};
   records[1].longKey = 5;  // slots 0, 0 and 1
@@ -112,18 +101,17 @@ TEST(HashTableTest, StatisticsText) {
   HashShowStatistics(table);
   HashShowStatistics(nullptr);
   HashDelete(&table);
-  pfnPlatformSetMessageHandler(old);
 
   const char* bins = "    3- 0\n    4- 0\n    5- 0\n    6- 0\n    7- 0\n    8- 0\n   10- 0\n"
                      "   20- 0\n   40- 0\n  100- 0\n 1000- 0\n10000- 0\n100000- 0\n";
-  ASSERT_EQ(shownTexts.size(), 2u);
-  EXPECT_EQ(shownTexts[0], std::string("Hash statistics:\nTable size:5\nTotal:0\n"
-                                       "    0- 5\n    1- 0\n    2- 0\n") +
-                               bins + "Slots used 0.00%");
-  EXPECT_EQ(shownTexts[1], std::string("Hash statistics:\nTable size:5\nTotal:3\n"
-                                       "    0- 3\n    1- 1\n    2- 1\n") +
-                               bins + "Average chain 1.50\nSlots used 40.00%");
-  EXPECT_EQ(shownType & kMbIconInformation, unsigned(kMbIconInformation));
+  ASSERT_EQ(shown.boxes().size(), 2u);
+  EXPECT_EQ(shown.boxes()[0].text, std::string("Hash statistics:\nTable size:5\nTotal:0\n"
+                                               "    0- 5\n    1- 0\n    2- 0\n") +
+                                       bins + "Slots used 0.00%");
+  EXPECT_EQ(shown.boxes()[1].text, std::string("Hash statistics:\nTable size:5\nTotal:3\n"
+                                               "    0- 3\n    1- 1\n    2- 1\n") +
+                                       bins + "Average chain 1.50\nSlots used 40.00%");
+  EXPECT_EQ(shown.boxes()[1].type & kMbIconInformation, unsigned(kMbIconInformation));
 }
 
 }  // namespace

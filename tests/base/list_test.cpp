@@ -5,18 +5,11 @@
 
 #include "base/chain.h"
 #include "base/dlink.h"
-#include "base/platform.h"
 #include "base/pool.h"
 #include "base/slink.h"
+#include "tests/base/scratch_folder.h"
 
 namespace {
-
-std::vector<std::string> shownTexts;
-
-int iCaptureBox(const char* text, const char*, unsigned int) {
-  shownTexts.emplace_back(text);
-  return kIdOk;
-}
 
 struct Item {
   Item* next;
@@ -65,24 +58,19 @@ using V = std::vector<int>;
 class ListTest : public ::testing::Test {
  protected:
   void SetUp() override {
-    shownTexts.clear();
-    oldHandler = pfnPlatformSetMessageHandler(iCaptureBox);
     vPoolInit(&pool, 4096);
     SLinkInit(&list, sizeof(Item), &pool);
   }
-  void TearDown() override {
-    vPoolDelete(&pool);
-    pfnPlatformSetMessageHandler(oldHandler);
-  }
+  void TearDown() override { vPoolDelete(&pool); }
   Item* Add(int value, Item* before = nullptr) {
     Item* item = SLinkNewObjAs<Item>(&list, before);
     item->value = value;
     return item;
   }
 
+  CapturedMessages shown;
   Pool pool;
   ListHead list;
-  PlatformMessageHandler oldHandler = nullptr;
 };
 
 TEST_F(ListTest, NewObjAppendsOrInsertsInFront) {
@@ -104,7 +92,7 @@ TEST_F(ListTest, NewObjAppendsOrInsertsInFront) {
   EXPECT_EQ(list.last, after);
   static_cast<Item*>(SLinkNewObjAfter(&list, nullptr, &source))->value = -1;
   EXPECT_EQ(Values(list.first), (V{-1, 0, 1, 2, 3, 7, 0}));
-  EXPECT_TRUE(shownTexts.empty());
+  EXPECT_TRUE(shown.boxes().empty());
 
   // A copied list shares the payload's pointers and has links of its own.
   ListHead twin;
@@ -122,14 +110,14 @@ TEST_F(ListTest, MisuseIsReportedAndTheListGoesOn) {
   Item* added = Add(2, &stranger);
   EXPECT_EQ(list.first, added);
   EXPECT_EQ(list.last, added);
-  ASSERT_EQ(shownTexts.size(), 1u);
-  EXPECT_EQ(shownTexts[0], "SLinkNewSizeObj InsertBefore not found");
+  EXPECT_EQ(shown.texts(), std::vector<std::string>{"SLinkNewSizeObj InsertBefore not found"});
 
   uint64_t left = pool.left;
   Item source{nullptr, 9, nullptr};
   auto* item = static_cast<Item*>(pSLinkNewObj(&list, nullptr, &source, 8));
-  ASSERT_EQ(shownTexts.size(), 2u);
-  EXPECT_EQ(shownTexts[1], "pSLinkNewObj: Wrong size of object in list");
+  EXPECT_EQ(shown.texts(),
+            (std::vector<std::string>{"SLinkNewSizeObj InsertBefore not found",
+                                      "pSLinkNewObj: Wrong size of object in list"}));
   EXPECT_EQ(left - pool.left, sizeof(Item));  // the head's size wins
   EXPECT_EQ(item->value, 9);
   EXPECT_EQ(list.last, item);
@@ -259,8 +247,7 @@ TEST_F(ListTest, DLinkKeepsBothDirections) {
 
   DItem source{nullptr, nullptr, 11};
   auto* item = static_cast<DItem*>(pDLinkNewObj(&dlist, nullptr, &source, 8));
-  ASSERT_EQ(shownTexts.size(), 1u);
-  EXPECT_EQ(shownTexts[0], "pDLinkNewObj: Wrong size of object to copy");
+  EXPECT_EQ(shown.texts(), std::vector<std::string>{"pDLinkNewObj: Wrong size of object to copy"});
   EXPECT_EQ(DValues(dlist), (V{0, 1, 4, 7, 9, 11}));
   EXPECT_EQ(item->prev->value, 9);
 }

@@ -16,22 +16,9 @@
 
 namespace {
 
-struct ShownBox {
-  std::string text;
-  unsigned int type;
-};
-std::vector<ShownBox> shownBoxes;
-
-int iCaptureBox(const char* text, const char*, unsigned int type) {
-  shownBoxes.push_back({text, type});
-  return kIdOk;
-}
-
 class LogFileTest : public ::testing::Test {
  protected:
   void SetUp() override {
-    shownBoxes.clear();
-    formerHandler_ = pfnPlatformSetMessageHandler(&iCaptureBox);
     formerName_ = sLogGetFileName();
     formerLongStamp_ = iLogSetLongStamp(false);
     lLogResetErrors();
@@ -41,7 +28,6 @@ class LogFileTest : public ::testing::Test {
     vLogSetFileName(logPath_.c_str());
   }
   void TearDown() override {
-    pfnPlatformSetMessageHandler(formerHandler_);
     vLogSetFileName(formerName_.c_str());
     iLogSetLongStamp(formerLongStamp_ != 0);
     vLogDeferErrors(false);
@@ -49,9 +35,9 @@ class LogFileTest : public ::testing::Test {
     lLogResetErrors();
   }
 
+  CapturedMessages shown_;
   ScratchFolder folder_;
   std::string logPath_;
-  PlatformMessageHandler formerHandler_ = nullptr;
   std::string formerName_;
   int formerLongStamp_ = 0;
 };
@@ -67,7 +53,7 @@ TEST_F(LogFileTest, EveryLineEndBecomesCrLfBehindOneStamp) {
                          kDateStamp + "\r\n" + kDateStamp + "end\r\n\r\n$";
   std::string written = sReadWholeFile(logPath_);
   EXPECT_TRUE(std::regex_match(written, std::regex(expected))) << written;
-  EXPECT_TRUE(shownBoxes.empty());
+  EXPECT_TRUE(shown_.boxes().empty());
 
   std::remove(logPath_.c_str());
   EXPECT_EQ(iLogSetLongStamp(true), 0);
@@ -96,9 +82,10 @@ TEST_F(LogFileTest, OverlongLineIsCutAt4093AndStillClosed) {
 TEST_F(LogFileTest, FailedOpenIsShownWithCodeTextAndPath) {
   vLogSetFileName("");
   vLogWrite("lost");
-  ASSERT_EQ(shownBoxes.size(), 1u);
-  EXPECT_EQ(shownBoxes[0].text, std::string("Logfile errno: 2 ") + std::strerror(ENOENT) + "\n");
-  EXPECT_EQ(shownBoxes[0].type, 0x2030u | kMbTopmost);
+  ASSERT_EQ(shown_.boxes().size(), 1u);
+  EXPECT_EQ(shown_.boxes()[0].text,
+            std::string("Logfile errno: 2 ") + std::strerror(ENOENT) + "\n");
+  EXPECT_EQ(shown_.boxes()[0].type, 0x2030u | kMbTopmost);
   EXPECT_EQ(lLogGetErrorCount(), 0);
   EXPECT_FALSE(boLogGetError(nullptr, nullptr, 0));
 }
@@ -112,7 +99,7 @@ TEST_F(LogFileTest, DeferredFailuresKeepTheFirstReportAndCountAll) {
   vLogSetFileName(second.c_str());
   vLogWrite("two");
 
-  EXPECT_TRUE(shownBoxes.empty());
+  EXPECT_TRUE(shown_.boxes().empty());
   EXPECT_EQ(lLogGetErrorCount(), 2);
   int code = 0;
   char text[512];
@@ -133,12 +120,12 @@ TEST_F(LogFileTest, WriteFailureIsShownOnlyWhenAskedFor) {
   if (!boPlatformFileExists("/dev/full")) GTEST_SKIP() << "no /dev/full";
   vLogSetFileName("/dev/full");
   vLogWrite("quiet");
-  EXPECT_TRUE(shownBoxes.empty());
+  EXPECT_TRUE(shown_.boxes().empty());
 
   vLogReportWriteErrors(true);
   vLogWrite("loud");
-  ASSERT_EQ(shownBoxes.size(), 1u);
-  EXPECT_EQ(shownBoxes[0].text,
+  ASSERT_EQ(shown_.boxes().size(), 1u);
+  EXPECT_EQ(shown_.boxes()[0].text,
             std::string("Logfile write error, errno: 28 ") + std::strerror(ENOSPC) + "\n/dev/full");
 
   vLogDeferErrors(true);
@@ -147,7 +134,7 @@ TEST_F(LogFileTest, WriteFailureIsShownOnlyWhenAskedFor) {
   ASSERT_TRUE(boLogGetError(nullptr, text, sizeof text));
   EXPECT_EQ(std::string(text), std::string("Logfile write error (errno: 28, ") +
                                    std::strerror(ENOSPC) + ") on file: /dev/full");
-  EXPECT_EQ(shownBoxes.size(), 1u);
+  EXPECT_EQ(shown_.boxes().size(), 1u);
 }
 
 TEST_F(LogFileTest, HeldFileIsTriedAgainBeforeItCountsAsFailed) {

@@ -28,7 +28,7 @@ class MarkersTest : public ::testing::Test {
   std::string user_;
 };
 
-TEST_F(MarkersTest, TakingAndGivingUpAFreeFile) {
+TEST_F(MarkersTest, TakingAndGivingUpAFreeFileAndDeletingItMarked) {
   std::string path = sFile("road.sfi");
   EXPECT_EQ(std::string(sMarkerFileName(path.c_str())), path + "~");
   EXPECT_EQ(iMarkerState(path.c_str(), nullptr), kMarkerFree);
@@ -43,7 +43,14 @@ TEST_F(MarkersTest, TakingAndGivingUpAFreeFile) {
   EXPECT_TRUE(boMarkerSet(path.c_str(), false));
   EXPECT_FALSE(boPlatformFileExists((path + "~").c_str()));
   EXPECT_FALSE(boMarkerSet(path.c_str(), false));
+
+  // Deleting needs the marker and takes it along.
+  EXPECT_FALSE(boFileDeleteMarked(path.c_str()));
   EXPECT_EQ(sReadWholeFile(path), "model");
+  ASSERT_TRUE(boMarkerSet(path.c_str(), true));
+  EXPECT_TRUE(boFileDeleteMarked(path.c_str()));
+  EXPECT_FALSE(boPlatformFileExists(path.c_str()));
+  EXPECT_FALSE(boPlatformFileExists((path + "~").c_str()));
 }
 
 TEST_F(MarkersTest, AnotherUsersMarkerIsLeftAlone) {
@@ -137,16 +144,6 @@ TEST_F(MarkersTest, FailedMoveGivesBackTheTargetsMarker) {
   EXPECT_FALSE(boPlatformFileExists((to + "~").c_str()));
   EXPECT_EQ(iMarkerState(from.c_str(), nullptr), kMarkerMine);
   EXPECT_TRUE(boPlatformFileExists(from.c_str()));
-}
-
-TEST_F(MarkersTest, DeleteNeedsTheMarker) {
-  std::string path = sFile("road.sfi");
-  EXPECT_FALSE(boFileDeleteMarked(path.c_str()));
-  EXPECT_TRUE(boPlatformFileExists(path.c_str()));
-  ASSERT_TRUE(boMarkerSet(path.c_str(), true));
-  EXPECT_TRUE(boFileDeleteMarked(path.c_str()));
-  EXPECT_FALSE(boPlatformFileExists(path.c_str()));
-  EXPECT_FALSE(boPlatformFileExists((path + "~").c_str()));
 }
 
 TEST(MarkerPrefix, MarksFreeAndForeignFiles) {

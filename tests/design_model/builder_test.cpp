@@ -71,14 +71,6 @@ TEST(DesignModelBuilder, GivesTheSameDesignAsItsDocument) {
 
   // The document of a design holds every member of every object.
   EXPECT_EQ(sDocumentText(*built, true), sDocumentText(*read, true));
-  EXPECT_EQ(built->GetI()->GetAlignments()[0]->GetName(), u"Main");
-  EXPECT_EQ(built->GetR()
-                ->GetSections()[0]
-                ->GetModel()
-                ->GetSurfacesLeft()[0]
-                ->GetSurfaceNumber()
-                .GetSerialNumber(),
-            2u);
 }
 
 TEST(DesignModelBuilder, MakesOnlyTheSidesThatAreAskedFor) {

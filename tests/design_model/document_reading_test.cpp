@@ -31,9 +31,7 @@ const std::string kSmallRoad = R"({
     "alignments": [{
       "id": 7, "name": "Hovedlinje \u00c6\u00d8\u00c5",
       "horizontalLineElements": [
-        {"elementNo": 1, "startChainage": 0, "endChainage": 100.5, "startEast": 1000,
-         "startNorth": 2000.25, "endEast": 1100.5, "endNorth": 2000.25, "startRadius": 0,
-         "endRadius": -350, "clothoidParameter": null}
+        {"elementNo": 1, "endChainage": 100.5, "endRadius": -350, "clothoidParameter": null}
       ],
       "verticalLineAnglePoints": [{"chainage": 0, "elevation": 10}, {"chainage": 100.5}]
     }],
@@ -46,94 +44,58 @@ const std::string kSmallRoad = R"({
   ]}
 })";
 
-TEST(DesignDocumentReading, MembersMapToTheOperationsOfTheirClasses) {
+// Every member going to its own operation and back under its own name is
+// pinned by the file of every member below; here what that file does not
+// hold: escapes in texts and null, the no-value mark, in each kind of place.
+TEST(DesignDocumentReading, EscapesAndNullsReadAsTextsAndTheNoValueMark) {
   std::unique_ptr<DesignModelRecord> design = Read(kSmallRoad);
   ASSERT_TRUE(design);
   const CInData* in = design->GetI();
   ASSERT_TRUE(in);
-  EXPECT_DOUBLE_EQ(in->GetModelVersionNumber(), 8.2);
-  EXPECT_EQ(in->GetModelType(), 1);
-  EXPECT_EQ(in->GetReferenceAlignmentID(), 7);
   EXPECT_EQ(in->GetSubSurfaceMaterials(),
             (std::vector<std::u16string>{u"Jord", u"Fjell \u00F8st"}));
-
-  ASSERT_EQ(in->GetAlignments().size(), 1u);
-  const CIAlignment& alignment = *in->GetAlignments()[0];
-  EXPECT_EQ(alignment.GetId(), 7);
+  const CIAlignment& alignment = *in->GetAlignments().at(0);
   EXPECT_EQ(alignment.GetName(), u"Hovedlinje \u00C6\u00D8\u00C5");
-  ASSERT_EQ(alignment.GetHorizontalLineElements().size(), 1u);
-  const CIHorizontalLineElement& element = *alignment.GetHorizontalLineElements()[0];
-  EXPECT_EQ(element.GetElementNo(), 1);
-  EXPECT_DOUBLE_EQ(element.GetEndChainage(), 100.5);
-  EXPECT_DOUBLE_EQ(element.GetStartNorth(), 2000.25);
-  EXPECT_DOUBLE_EQ(element.GetEndEast(), 1100.5);
-  EXPECT_DOUBLE_EQ(element.GetEndRadius(), -350.0);
-  EXPECT_DOUBLE_EQ(element.GetClothoidParameter(), 999999.0);
-  auto points = alignment.GetVerticalLineAnglePoints();
-  ASSERT_EQ(points.size(), 2u);
-  EXPECT_DOUBLE_EQ(points[0]->GetElevation(), 10.0);
-  EXPECT_DOUBLE_EQ(points[1]->GetChainage(), 100.5);
+  EXPECT_DOUBLE_EQ(alignment.GetHorizontalLineElements().at(0)->GetClothoidParameter(), kNoValue);
 
-  const CIPavementTemplate& pavement = *in->GetPvmtTmpls().at(0);
-  EXPECT_EQ(pavement.GetId(), 3);
-  EXPECT_EQ(pavement.GetRehab()->GetExistRoadEdgeLeft()->GetRefId(), 4);
-
-  const CResultData* results = design->GetR();
-  ASSERT_TRUE(results);
-  ASSERT_EQ(results->GetSections().size(), 1u);
-  const CRResultSection& section = *results->GetSections()[0];
-  EXPECT_DOUBLE_EQ(section.GetChainage(), 50.0);
-  EXPECT_DOUBLE_EQ(section.GetModel()->GetRefElevation(), 11.5);
-  auto roadBed = section.GetModel()->GetRoadBed();
-  ASSERT_EQ(roadBed.size(), 1u);
-  EXPECT_DOUBLE_EQ(roadBed[0]->GetDistance(), -3.5);
-  EXPECT_DOUBLE_EQ(roadBed[0]->GetElevation(), 999999.0);
-  EXPECT_EQ(section.GetTerrain()->GetMaterials(),
-            (std::vector<CRTerrainSection::MaterialEnums>{CRTerrainSection::MaterialEnums{2},
-                                                          CRTerrainSection::MaterialEnums{1}}));
+  const CRResultSection& section = *design->GetR()->GetSections().at(0);
+  EXPECT_DOUBLE_EQ(section.GetModel()->GetRoadBed().at(0)->GetElevation(), kNoValue);
   EXPECT_EQ(section.GetTerrain()->GetLayerElevations().at(0)->GetSubSurfaces(),
-            (std::vector<double>{-0.5, 999999.0}));
+            (std::vector<double>{-0.5, kNoValue}));
 }
 
 TEST(DesignDocumentReading, AbsentMembersReadAtTheirDefaults) {
   std::unique_ptr<DesignModelRecord> design = Read(kSmallRoad);
   ASSERT_TRUE(design);
   const CInData& in = *design->GetI();
-  // Scalars, texts and lists.
+  // A text, a number, a list and a surface number.
   EXPECT_EQ(in.GetAlignments()[0]->GetGuid(), u"");
   EXPECT_DOUBLE_EQ(in.GetAlignments()[0]->GetVerticalLineAnglePoints()[1]->GetElevation(), 0.0);
-  EXPECT_DOUBLE_EQ(in.GetAlignments()[0]->GetHorizontalLineElements()[0]->GetStartOffset(), 0.0);
   EXPECT_TRUE(in.GetSurfaces().empty());
-  EXPECT_TRUE(in.GetClosedDrainages().empty());
   EXPECT_FALSE(in.GetElevationReferenceSurface().HasSerialNumber());
   EXPECT_DOUBLE_EQ(in.GetElevationReferenceSurface().GetDecimal(), 0.0);
-  // Single objects are there at their defaults, never null.
+  // Single objects are there at their defaults, never null, also beside a
+  // sibling that is given.
   ASSERT_TRUE(in.GetModelSettings());
   EXPECT_FALSE(in.GetModelSettings()->IsSodding());
-  ASSERT_TRUE(in.GetRailwayParams());
-  EXPECT_DOUBLE_EQ(in.GetRailwayParams()->GetVerticalOffset(), 0.0);
   const CIPavementTemplate& pavement = *in.GetPvmtTmpls()[0];
-  EXPECT_EQ(pavement.GetName(), u"");
   ASSERT_TRUE(pavement.GetInnerSlopesRight());
   EXPECT_FALSE(pavement.GetInnerSlopesRight()->IsStatus());
   EXPECT_EQ(pavement.GetRehab()->GetExistRoadEdgeRight()->GetRefId(), 0);
   const CRResultSection& section = *design->GetR()->GetSections()[0];
   EXPECT_DOUBLE_EQ(section.GetModel()->GetRailwayRefElevation(), 0.0);
-  EXPECT_TRUE(section.GetModel()->GetSurfacesLeft().empty());
   EXPECT_DOUBLE_EQ(section.GetTerrain()->GetLayerElevations()[0]->GetDistance(), 0.0);
-  EXPECT_TRUE(section.GetTerrain()->GetObjects().empty());
 }
 
 TEST(DesignDocumentReading, SidesAbsentOrNullAreNotThere) {
-  std::unique_ptr<DesignModelRecord> bare = Read(R"({"format":"design-model","formatVersion":1})");
-  ASSERT_TRUE(bare);
-  EXPECT_EQ(bare->GetI(), nullptr);
-  EXPECT_EQ(bare->GetR(), nullptr);
-  std::unique_ptr<DesignModelRecord> nulls =
-      Read(R"({"format":"design-model","formatVersion":1,"input":null,"results":null})");
-  ASSERT_TRUE(nulls);
-  EXPECT_EQ(nulls->GetI(), nullptr);
-  EXPECT_EQ(nulls->GetR(), nullptr);
+  for (const char* text :
+       {R"({"format":"design-model","formatVersion":1})",
+        R"({"format":"design-model","formatVersion":1,"input":null,"results":null})"}) {
+    std::unique_ptr<DesignModelRecord> bare = Read(text);
+    ASSERT_TRUE(bare) << text;
+    EXPECT_EQ(bare->GetI(), nullptr) << text;
+    EXPECT_EQ(bare->GetR(), nullptr) << text;
+  }
   std::unique_ptr<DesignModelRecord> empty =
       Read(R"({"format":"design-model","formatVersion":1,"input":{},"results":{}})");
   ASSERT_TRUE(empty);
@@ -164,20 +126,19 @@ TEST(DesignDocumentReading, SurfaceNumberHasASerialNumberExactlyWhenOneIsGiven) 
   ASSERT_TRUE(design);
   auto surfaces = design->GetI()->GetSurfaces();
   ASSERT_EQ(surfaces.size(), 4u);
-  CSurfaceNumber withSerial = surfaces[0]->GetSurfaceNumber();
-  EXPECT_DOUBLE_EQ(withSerial.GetDecimal(), -1.2);
-  EXPECT_TRUE(withSerial.HasSerialNumber());
-  EXPECT_EQ(withSerial.GetSerialNumber(), 4294967295u);
-  CSurfaceNumber without = surfaces[1]->GetSurfaceNumber();
-  EXPECT_DOUBLE_EQ(without.GetDecimal(), 2.01);
-  EXPECT_FALSE(without.HasSerialNumber());
-  EXPECT_EQ(without.GetSerialNumber(), 0u);
-  CSurfaceNumber zeroSerial = surfaces[2]->GetSurfaceNumber();
-  EXPECT_DOUBLE_EQ(zeroSerial.GetDecimal(), 999999.0);
-  EXPECT_TRUE(zeroSerial.HasSerialNumber());
-  EXPECT_EQ(zeroSerial.GetSerialNumber(), 0u);
-  EXPECT_FALSE(surfaces[3]->GetSurfaceNumber().HasSerialNumber());
-  EXPECT_DOUBLE_EQ(surfaces[3]->GetSurfaceNumber().GetDecimal(), 0.0);
+  struct Expected {
+    double decimal;
+    bool hasSerial;
+    uint32_t serial;
+  };
+  const Expected expected[] = {
+      {-1.2, true, 4294967295u}, {2.01, false, 0}, {kNoValue, true, 0}, {0.0, false, 0}};
+  for (size_t i = 0; i < surfaces.size(); ++i) {
+    CSurfaceNumber number = surfaces[i]->GetSurfaceNumber();
+    EXPECT_DOUBLE_EQ(number.GetDecimal(), expected[i].decimal) << i;
+    EXPECT_EQ(number.HasSerialNumber(), expected[i].hasSerial) << i;
+    EXPECT_EQ(number.GetSerialNumber(), expected[i].serial) << i;
+  }
 }
 
 TEST(DesignDocumentReading, ClosedDrainageIsWalkedSectionBySection) {

@@ -43,16 +43,13 @@ TEST(DesignDocumentOpening, OpenGivesTheDesignAndErrorZero) {
 
 TEST(DesignDocumentOpening, AFileThatCannotBeReadIsError2) {
   ScratchFolder folder;
-  int32_t err = 0;
-  std::u16string missing(folder.path().begin(), folder.path().end());
-  EXPECT_EQ(CDesignModel::Open(missing + u"/mangler.json", err), nullptr);
-  EXPECT_EQ(err, -2);
-  err = 0;
-  EXPECT_EQ(CDesignModel::Open(missing, err), nullptr);  // a folder
-  EXPECT_EQ(err, -2);
-  err = 0;
-  EXPECT_EQ(CDesignModel::Open(u"", err), nullptr);
-  EXPECT_EQ(err, -2);
+  std::u16string place(folder.path().begin(), folder.path().end());
+  // A missing file, a folder and no path at all.
+  for (const std::u16string& path : {place + u"/mangler.json", place, std::u16string()}) {
+    int32_t err = 0;
+    EXPECT_EQ(CDesignModel::Open(path, err), nullptr);
+    EXPECT_EQ(err, -2);
+  }
   DocumentProblem problem = ValidateDocument((folder / "mangler.json").c_str());
   EXPECT_EQ(problem.iError, -2);
   EXPECT_EQ(problem.sPointer, "");

@@ -1,16 +1,15 @@
 // Arcs and clothoids in lines, checked against closed-form values.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
-#include <numbers>
 
 #include "geometry/clothoid.h"
 #include "geometry/line.h"
 #include "geometry/line_measure.h"
+#include "tests/geometry/geometry_test_util.h"
 
 namespace {
-
-constexpr double kPi = std::numbers::pi;
 
 // Point of the standard clothoid x' = cos(s^2 / 2A^2), y' = sin(s^2 / 2A^2)
 // from its power series.
@@ -31,16 +30,13 @@ ViPoint2d FresnelPoint(double s, double a) {
   return {x, y};
 }
 
-struct LineDeleter {
-  LiLine* line;
-  ~LineDeleter() { vLiLineDelete(&line); }
-};
+// The direction of the standard clothoid at `s`.
+double FresnelDirection(double s, double a) { return s * s / (2.0 * a * a); }
 
 }  // namespace
 
 TEST(Arc, TwoPointArcHasItsMidpointAndLengthFromTheCircle) {
-  LiLine* line = LiLineCreate(false);
-  LineDeleter guard{line};
+  OwnedLine line(LiLineCreate(false));
   LiLineAddP2d(line, 0.0, 0.0);
   const LiElm arc = LiLineAddArc2PTo(line, 10.0, 0.0, 10.0);
   ASSERT_EQ(LiElmGetType(line, arc), kLiElmArc2p);
@@ -49,21 +45,13 @@ TEST(Arc, TwoPointArcHasItsMidpointAndLengthFromTheCircle) {
   // right of the chord, below it.
   const double length = 10.0 * kPi / 3.0;
   EXPECT_NEAR(dLiLineLength(line), length, 1e-9);
-  ViPoint3d middle;
-  double direction;
-  ASSERT_TRUE(boLiLineGetPointAtLength(line, length / 2.0, &middle, &direction));
-  EXPECT_NEAR(middle.x, 5.0, 1e-9);
-  EXPECT_NEAR(middle.y, 5.0 * std::sqrt(3.0) - 10.0, 1e-9);
-  EXPECT_NEAR(direction, 0.0, 1e-9);
-  ViPoint3d start;
-  ASSERT_TRUE(boLiLineGetPointAtLength(line, 0.0, &start, &direction));
-  EXPECT_NEAR(direction, -kPi / 6.0, 1e-9);
+  EXPECT_TRUE(AtLength(line, length / 2.0, 5.0, 5.0 * std::sqrt(3.0) - 10.0, 0.0));
+  EXPECT_TRUE(AtLength(line, 0.0, 0.0, 0.0, -kPi / 6.0));
   EXPECT_NEAR(dLiLineGetCurvatureAtLength(line, 1.0), 0.1, 1e-12);
 
   // A negative radius turns right and bulges above the chord.
   ASSERT_TRUE(boLiElmSet2pArc(line, arc, -10.0, false));
-  ASSERT_TRUE(boLiLineGetPointAtLength(line, length / 2.0, &middle, &direction));
-  EXPECT_NEAR(middle.y, 10.0 - 5.0 * std::sqrt(3.0), 1e-9);
+  EXPECT_TRUE(AtLength(line, length / 2.0, 5.0, 10.0 - 5.0 * std::sqrt(3.0), 0.0));
   EXPECT_NEAR(dLiLineGetCurvatureAtLength(line, 1.0), -0.1, 1e-12);
 
   // A radius shorter than half the chord is refused and changes nothing.
@@ -73,8 +61,7 @@ TEST(Arc, TwoPointArcHasItsMidpointAndLengthFromTheCircle) {
 }
 
 TEST(Arc, LargeFlagTakesTheLongWayRound) {
-  LiLine* line = LiLineCreate(false);
-  LineDeleter guard{line};
+  OwnedLine line(LiLineCreate(false));
   LiLineAddP2d(line, 0.0, 0.0);
   const LiElm arc = LiLineAddArc2PTo(line, 10.0, 0.0, 10.0, true);
   EXPECT_TRUE(boLiElmIsLarge(line, arc));
@@ -83,42 +70,26 @@ TEST(Arc, LargeFlagTakesTheLongWayRound) {
   // is one radius further down.
   const double length = 10.0 * (2.0 * kPi - kPi / 3.0);
   EXPECT_NEAR(dLiLineLength(line), length, 1e-9);
-  ViPoint3d middle;
-  double direction;
-  ASSERT_TRUE(boLiLineGetPointAtLength(line, length / 2.0, &middle, &direction));
-  EXPECT_NEAR(middle.x, 5.0, 1e-9);
-  EXPECT_NEAR(middle.y, -5.0 * std::sqrt(3.0) - 10.0, 1e-9);
-  EXPECT_NEAR(direction, 0.0, 1e-9);
-
+  EXPECT_TRUE(AtLength(line, length / 2.0, 5.0, -5.0 * std::sqrt(3.0) - 10.0, 0.0));
   ViExtent extent;
   vLiLineGetExtent(line, &extent);
-  EXPECT_NEAR(extent.dMinX, -5.0, 1e-9);
-  EXPECT_NEAR(extent.dMaxX, 15.0, 1e-9);
-  EXPECT_NEAR(extent.dMinY, -5.0 * std::sqrt(3.0) - 10.0, 1e-9);
-  EXPECT_NEAR(extent.dMaxY, 0.0, 1e-9);
+  EXPECT_TRUE(ExtentNear(extent, -5.0, -5.0 * std::sqrt(3.0) - 10.0, 15.0, 0.0));
 }
 
 TEST(Arc, ThreePointArcRunsThroughItsMiddlePoint) {
-  LiLine* line = LiLineCreate(false);
-  LineDeleter guard{line};
+  OwnedLine line(LiLineCreate(false));
   LiLineAddP2d(line, 0.0, 0.0);
   const LiElm arc = LiLineAddP2d(line, 10.0, 0.0);
   ASSERT_TRUE(boLiElmSet3pArc(line, arc, 5.0, 5.0));
   // Half the circle of radius 5 about (5, 0), over the top, clockwise.
   EXPECT_NEAR(dLiLineLength(line), 5.0 * kPi, 1e-9);
-  ViPoint3d point;
-  double direction;
-  ASSERT_TRUE(boLiLineGetPointAtLength(line, 5.0 * kPi / 4.0, &point, &direction));
-  EXPECT_NEAR(point.x, 5.0 - 5.0 * std::sqrt(0.5), 1e-9);
-  EXPECT_NEAR(point.y, 5.0 * std::sqrt(0.5), 1e-9);
-  EXPECT_NEAR(direction, kPi / 4.0, 1e-9);
-
+  EXPECT_TRUE(
+      AtLength(line, 5.0 * kPi / 4.0, 5.0 - 5.0 * std::sqrt(0.5), 5.0 * std::sqrt(0.5), kPi / 4.0));
   // Three points on a straight line make no arc.
   EXPECT_FALSE(boLiElmSet3pArc(line, arc, 5.0, 0.0));
 
   // A reader that meets the middle point as the next point folds it in.
-  LiLine* read = LiLineCreate(false);
-  LineDeleter readGuard{read};
+  OwnedLine read(LiLineCreate(false));
   LiLineAddP2d(read, 0.0, 0.0);
   const LiElm end = LiLineAddP2d(read, 10.0, 0.0);
   LiLineAddP2d(read, 5.0, -5.0);
@@ -134,25 +105,18 @@ TEST(Clothoid, EndTangentAndCurvatureFollowFromRadiusAndParameter) {
   // end direction of L^2 / 2A^2 = 0.125.
   const double a = 100.0, radius = 200.0, length = 50.0;
   const ViPoint2d end = FresnelPoint(length, a);
-  LiLine* line = LiLineCreate(false);
-  LineDeleter guard{line};
+  const ViPoint2d middle = FresnelPoint(length / 2.0, a);
+  OwnedLine line(LiLineCreate(false));
   LiLineAddP2d(line, 0.0, 0.0);
   const LiElm clothoid = LiLineAddP2d(line, end.x, end.y);
   ASSERT_TRUE(boLiElmSetClotoide(line, clothoid, 0.0, radius, a));
 
   EXPECT_NEAR(dLiLineLength(line), length, 1e-9);
-  ViPoint3d point;
-  double direction;
-  ASSERT_TRUE(boLiLineGetPointAtLength(line, 0.0, &point, &direction));
-  EXPECT_NEAR(direction, 0.0, 1e-9);
-  ASSERT_TRUE(boLiLineGetPointAtLength(line, length, &point, &direction));
-  EXPECT_NEAR(direction, 0.125, 1e-9);
+  EXPECT_TRUE(AtLength(line, 0.0, 0.0, 0.0, 0.0));
+  EXPECT_TRUE(AtLength(line, length / 2.0, middle.x, middle.y, 0.03125));
+  EXPECT_TRUE(AtLength(line, length, end.x, end.y, 0.125));
   EXPECT_NEAR(dLiLineGetCurvatureAtLength(line, length), 1.0 / radius, 1e-12);
   EXPECT_NEAR(dLiLineGetCurvatureAtLength(line, length / 2.0), 0.5 / radius, 1e-12);
-  const ViPoint2d middle = FresnelPoint(length / 2.0, a);
-  ASSERT_TRUE(boLiLineGetPointAtLength(line, length / 2.0, &point, &direction));
-  EXPECT_NEAR(point.x, middle.x, 1e-9);
-  EXPECT_NEAR(point.y, middle.y, 1e-9);
 
   double r1, r2, storedA;
   vLiElmGetClotoide(line, clothoid, &r1, &r2, &storedA);
@@ -169,24 +133,17 @@ TEST(Clothoid, ArcToArcPieceMatchesTheStandardCurve) {
   const double a = 150.0, s1 = 45.0, s2 = 112.5;
   const ViPoint2d start = FresnelPoint(s1, a);
   const ViPoint2d end = FresnelPoint(s2, a);
-  LiLine* line = LiLineCreate(false);
-  LineDeleter guard{line};
+  const ViPoint2d inside = FresnelPoint(80.0, a);
+  OwnedLine line(LiLineCreate(false));
   LiLineAddP2d(line, start.x, start.y);
   const LiElm clothoid = LiLineAddP2d(line, end.x, end.y);
   ASSERT_TRUE(boLiElmSetClotoide(line, clothoid, 500.0, 200.0, a));
 
   EXPECT_NEAR(dLiLineLength(line), s2 - s1, 1e-9);
-  ViPoint3d point;
-  double direction;
-  ASSERT_TRUE(boLiLineGetPointAtLength(line, 0.0, &point, &direction));
-  EXPECT_NEAR(direction, s1 * s1 / (2.0 * a * a), 1e-9);
-  ASSERT_TRUE(boLiLineGetPointAtLength(line, s2 - s1, &point, &direction));
-  EXPECT_NEAR(direction, s2 * s2 / (2.0 * a * a), 1e-9);
+  EXPECT_TRUE(AtLength(line, 0.0, start.x, start.y, FresnelDirection(s1, a)));
+  EXPECT_TRUE(AtLength(line, 80.0 - s1, inside.x, inside.y, FresnelDirection(80.0, a)));
+  EXPECT_TRUE(AtLength(line, s2 - s1, end.x, end.y, FresnelDirection(s2, a)));
   EXPECT_NEAR(dLiLineGetCurvatureAtLength(line, s2 - s1), 1.0 / 200.0, 1e-12);
-  const ViPoint2d inside = FresnelPoint(80.0, a);
-  ASSERT_TRUE(boLiLineGetPointAtLength(line, 80.0 - s1, &point, nullptr));
-  EXPECT_NEAR(point.x, inside.x, 1e-9);
-  EXPECT_NEAR(point.y, inside.y, 1e-9);
 }
 
 TEST(Clothoid, StaysWithinAMicrometreOverAKilometre) {
@@ -194,8 +151,7 @@ TEST(Clothoid, StaysWithinAMicrometreOverAKilometre) {
   // curve turns right, so it is the mirror image of the standard one.
   const double a = 300.0, length = 1000.0;
   const ViPoint2d end = FresnelPoint(length, a);
-  LiLine* line = LiLineCreate(false);
-  LineDeleter guard{line};
+  OwnedLine line(LiLineCreate(false));
   LiLineAddP2d(line, 1000.0, 2000.0);
   const LiElm clothoid = LiLineAddP2d(line, 1000.0 + end.x, 2000.0 - end.y);
   ASSERT_TRUE(boLiElmSetClotoide(line, clothoid, 0.0, -90.0, a));
@@ -205,9 +161,8 @@ TEST(Clothoid, StaysWithinAMicrometreOverAKilometre) {
     ViPoint3d point;
     double direction;
     ASSERT_TRUE(boLiLineGetPointAtLength(line, s, &point, &direction));
-    EXPECT_NEAR(point.x, 1000.0 + expected.x, 1e-6) << s;
-    EXPECT_NEAR(point.y, 2000.0 - expected.y, 1e-6) << s;
-    EXPECT_NEAR(std::remainder(direction + s * s / (2.0 * a * a), 2.0 * kPi), 0.0, 1e-9) << s;
+    EXPECT_TRUE(Near(point, 1000.0 + expected.x, 2000.0 - expected.y, 1e-6)) << s;
+    EXPECT_NEAR(std::remainder(direction + FresnelDirection(s, a), 2.0 * kPi), 0.0, 1e-9) << s;
   }
   // Its extent reaches the turning points of the loop, beyond both ends.
   ViExtent extent;

@@ -2,20 +2,18 @@
 // known.
 #include "geometry/polygon.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <numbers>
 #include <vector>
+
+#include "tests/geometry/geometry_test_util.h"
 
 namespace {
 
-constexpr double kPi = std::numbers::pi;
-
-struct PolygonDeleter {
-  YgPolygon* polygon;
-  ~PolygonDeleter() { vYgPolygonDelete(&polygon); }
-};
+using testing::DoubleNear;
+using testing::ElementsAre;
 
 // Adds an axis-parallel rectangle as a ring, counter-clockwise unless
 // `clockwise`.
@@ -39,14 +37,6 @@ YgPolygon* Rectangle(double x0, double y0, double x1, double y1) {
   return polygon;
 }
 
-int PartCount(const YgPolygon* polygon) {
-  int parts = 0;
-  for (LiElm elm = YgElmGetFirst(polygon); elm != kLiNoElm; elm = YgElmGetNext(polygon, elm)) {
-    if (boLiElmIsPartStart(polygon, elm)) ++parts;
-  }
-  return parts;
-}
-
 std::vector<double> PartAreas(const YgPolygon* polygon) {
   std::vector<double> areas;
   for (LiElm elm = YgElmGetFirst(polygon); elm != kLiNoElm; elm = YgElmGetNext(polygon, elm)) {
@@ -58,21 +48,18 @@ std::vector<double> PartAreas(const YgPolygon* polygon) {
 }  // namespace
 
 TEST(PolygonArea, SignedAreaAndCentroidOfStraightAndCurvedRings) {
-  YgPolygon* square = Rectangle(2.0, 0.0, 6.0, 3.0);
-  PolygonDeleter guard{square};
+  OwnedPolygon square(Rectangle(2.0, 0.0, 6.0, 3.0));
   double centroidX = 0.0;
   EXPECT_NEAR(dYgPolygonArea(square, &centroidX), 12.0, 1e-12);
   EXPECT_NEAR(centroidX, 4.0, 1e-12);
 
-  YgPolygon* clockwise = YgPolygonCreate();
-  PolygonDeleter clockwiseGuard{clockwise};
+  OwnedPolygon clockwise(YgPolygonCreate());
   AddRectangle(clockwise, 2.0, 0.0, 6.0, 3.0, true);
   EXPECT_NEAR(dYgPolygonArea(clockwise, nullptr), -12.0, 1e-12);
   EXPECT_NEAR(dYgPolygonPartArea(clockwise, 0, 1), 12.0, 1e-12);
 
   // A quarter disc of radius 3: area pi r^2 / 4, centroid at 4r / 3pi.
-  YgPolygon* quarter = YgPolygonCreate();
-  PolygonDeleter quarterGuard{quarter};
+  OwnedPolygon quarter(YgPolygonCreate());
   LiLineAddP2d(quarter, 0.0, 0.0);
   LiLineAddP2d(quarter, 3.0, 0.0);
   LiLineAddArc2PTo(quarter, 0.0, 3.0, 3.0);
@@ -80,8 +67,7 @@ TEST(PolygonArea, SignedAreaAndCentroidOfStraightAndCurvedRings) {
   EXPECT_NEAR(centroidX, 4.0 / kPi, 1e-9);
 
   // Far from the origin the same shape keeps its precision.
-  YgPolygon* far = YgPolygonCreate();
-  PolygonDeleter farGuard{far};
+  OwnedPolygon far(YgPolygonCreate());
   LiLineAddP2d(far, 6500000.0, 600000.0);
   LiLineAddP2d(far, 6500003.0, 600000.0);
   LiLineAddArc2PTo(far, 6500000.0, 600003.0, 3.0);
@@ -91,41 +77,34 @@ TEST(PolygonArea, SignedAreaAndCentroidOfStraightAndCurvedRings) {
 }
 
 TEST(PolygonClip, ThreeOperationsOnOverlappingSquares) {
-  YgPolygon* a = Rectangle(0.0, 0.0, 10.0, 10.0);
-  YgPolygon* b = Rectangle(5.0, 0.0, 15.0, 10.0);
-  PolygonDeleter guardA{a}, guardB{b};
+  OwnedPolygon a(Rectangle(0.0, 0.0, 10.0, 10.0));
+  OwnedPolygon b(Rectangle(5.0, 0.0, 15.0, 10.0));
 
-  YgPolygon* both = pYgPolygonPolygonClip(a, b, kYgClipIntersection);
-  PolygonDeleter guard1{both};
+  OwnedPolygon both(pYgPolygonPolygonClip(a, b, kYgClipIntersection));
   ASSERT_NE(both, nullptr);
   EXPECT_TRUE(boLiLineIsPolygon(both));
   EXPECT_NEAR(dYgPolygonArea(both, nullptr), 50.0, 1e-9);
   ViExtent extent;
   vYgPolygonGetExtent(both, &extent);
-  EXPECT_NEAR(extent.dMinX, 5.0, 1e-9);
-  EXPECT_NEAR(extent.dMaxX, 10.0, 1e-9);
+  EXPECT_TRUE(ExtentNear(extent, 5.0, 0.0, 10.0, 10.0));
 
-  YgPolygon* left = pYgPolygonPolygonClip(a, b, kYgClipDifference);
-  PolygonDeleter guard2{left};
+  OwnedPolygon left(pYgPolygonPolygonClip(a, b, kYgClipDifference));
   ASSERT_NE(left, nullptr);
   EXPECT_NEAR(dYgPolygonArea(left, nullptr), 50.0, 1e-9);
   vYgPolygonGetExtent(left, &extent);
-  EXPECT_NEAR(extent.dMaxX, 5.0, 1e-9);
+  EXPECT_TRUE(ExtentNear(extent, 0.0, 0.0, 5.0, 10.0));
 
-  YgPolygon* all = pYgPolygonPolygonClip(a, b, kYgClipUnion);
-  PolygonDeleter guard3{all};
+  OwnedPolygon all(pYgPolygonPolygonClip(a, b, kYgClipUnion));
   ASSERT_NE(all, nullptr);
   EXPECT_NEAR(dYgPolygonArea(all, nullptr), 150.0, 1e-9);
-  EXPECT_EQ(PartCount(all), 1);
+  EXPECT_EQ(PartAreas(all).size(), 1u);
 
   // Nothing in common, an unknown operation, empty operands.
-  YgPolygon* away = Rectangle(20.0, 0.0, 21.0, 1.0);
-  PolygonDeleter guard4{away};
+  OwnedPolygon away(Rectangle(20.0, 0.0, 21.0, 1.0));
   EXPECT_EQ(pYgPolygonPolygonClip(a, away, kYgClipIntersection), nullptr);
   EXPECT_EQ(pYgPolygonPolygonClip(a, b, 4), nullptr);
   EXPECT_EQ(pYgPolygonPolygonClip(nullptr, b, kYgClipDifference), nullptr);
-  YgPolygon* same = pYgPolygonPolygonClip(a, nullptr, kYgClipUnion);
-  PolygonDeleter guard5{same};
+  OwnedPolygon same(pYgPolygonPolygonClip(a, nullptr, kYgClipUnion));
   ASSERT_NE(same, nullptr);
   EXPECT_NEAR(dYgPolygonArea(same, nullptr), 100.0, 1e-9);
 }
@@ -133,70 +112,49 @@ TEST(PolygonClip, ThreeOperationsOnOverlappingSquares) {
 TEST(PolygonClip, HolesAndDisjointParts) {
   // A square with a hole that runs the same way round: the inner ring is a
   // hole all the same.
-  YgPolygon* frame = Rectangle(0.0, 0.0, 10.0, 10.0);
-  PolygonDeleter guardFrame{frame};
+  OwnedPolygon frame(Rectangle(0.0, 0.0, 10.0, 10.0));
   AddRectangle(frame, 3.0, 3.0, 7.0, 7.0);
-  YgPolygon* leftHalf = Rectangle(0.0, 0.0, 5.0, 10.0);
-  PolygonDeleter guardHalf{leftHalf};
-  YgPolygon* cut = pYgPolygonPolygonClip(frame, leftHalf, kYgClipIntersection);
-  PolygonDeleter guardCut{cut};
+  OwnedPolygon leftHalf(Rectangle(0.0, 0.0, 5.0, 10.0));
+  OwnedPolygon cut(pYgPolygonPolygonClip(frame, leftHalf, kYgClipIntersection));
   ASSERT_NE(cut, nullptr);
   EXPECT_NEAR(dYgPolygonArea(cut, nullptr), 50.0 - 8.0, 1e-9);
 
   // Punching the hole: outer ring first, counter-clockwise, then the hole,
   // clockwise.
-  YgPolygon* outer = Rectangle(0.0, 0.0, 10.0, 10.0);
-  YgPolygon* inner = Rectangle(3.0, 3.0, 7.0, 7.0);
-  PolygonDeleter guardOuter{outer}, guardInner{inner};
-  YgPolygon* holed =
-      pYgPolygonPolygonClipAndSortPartsForIslands(outer, inner, kYgClipDifference, 1);
-  PolygonDeleter guardHoled{holed};
+  OwnedPolygon outer(Rectangle(0.0, 0.0, 10.0, 10.0));
+  OwnedPolygon inner(Rectangle(3.0, 3.0, 7.0, 7.0));
+  OwnedPolygon holed(
+      pYgPolygonPolygonClipAndSortPartsForIslands(outer, inner, kYgClipDifference, 1));
   ASSERT_NE(holed, nullptr);
-  const std::vector<double> holedAreas = PartAreas(holed);
-  ASSERT_EQ(holedAreas.size(), 2u);
-  EXPECT_NEAR(holedAreas[0], 100.0, 1e-9);
-  EXPECT_NEAR(holedAreas[1], -16.0, 1e-9);
+  EXPECT_THAT(PartAreas(holed), ElementsAre(DoubleNear(100.0, 1e-9), DoubleNear(-16.0, 1e-9)));
   EXPECT_NEAR(dYgPolygonArea(holed, nullptr), 84.0, 1e-9);
 
   // Union of two disjoint squares, given right one first: two parts, sorted
   // from left to right.
-  YgPolygon* right = Rectangle(5.0, 0.0, 7.0, 1.0);
-  YgPolygon* left = Rectangle(0.0, 0.0, 1.0, 1.0);
-  PolygonDeleter guardRight{right}, guardLeft{left};
-  YgPolygon* pair = pYgPolygonPolygonClipAndSortPartsForIslands(right, left, kYgClipUnion, 1);
-  PolygonDeleter guardPair{pair};
+  OwnedPolygon right(Rectangle(5.0, 0.0, 7.0, 1.0));
+  OwnedPolygon left(Rectangle(0.0, 0.0, 1.0, 1.0));
+  OwnedPolygon pair(pYgPolygonPolygonClipAndSortPartsForIslands(right, left, kYgClipUnion, 1));
   ASSERT_NE(pair, nullptr);
-  const std::vector<double> pairAreas = PartAreas(pair);
-  ASSERT_EQ(pairAreas.size(), 2u);
-  EXPECT_NEAR(pairAreas[0], 1.0, 1e-9);
-  EXPECT_NEAR(pairAreas[1], 2.0, 1e-9);
+  EXPECT_THAT(PartAreas(pair), ElementsAre(DoubleNear(1.0, 1e-9), DoubleNear(2.0, 1e-9)));
   EXPECT_EQ(YgElmGetType(pair, 4), kLiElmInvisible);
 
   // An island in the hole follows its own group, after the holed ring.
-  YgPolygon* island = Rectangle(4.0, 4.0, 6.0, 6.0);
-  PolygonDeleter guardIsland{island};
-  YgPolygon* nested = pYgPolygonPolygonClipAndSortPartsForIslands(holed, island, kYgClipUnion, 0);
-  PolygonDeleter guardNested{nested};
+  OwnedPolygon island(Rectangle(4.0, 4.0, 6.0, 6.0));
+  OwnedPolygon nested(pYgPolygonPolygonClipAndSortPartsForIslands(holed, island, kYgClipUnion, 0));
   ASSERT_NE(nested, nullptr);
-  const std::vector<double> nestedAreas = PartAreas(nested);
-  ASSERT_EQ(nestedAreas.size(), 3u);
-  EXPECT_NEAR(nestedAreas[0], 100.0, 1e-9);
-  EXPECT_NEAR(nestedAreas[1], -16.0, 1e-9);
-  EXPECT_NEAR(nestedAreas[2], 4.0, 1e-9);
+  EXPECT_THAT(PartAreas(nested),
+              ElementsAre(DoubleNear(100.0, 1e-9), DoubleNear(-16.0, 1e-9), DoubleNear(4.0, 1e-9)));
 }
 
 TEST(PolygonClip, ArcsAreReplacedByChordsWithinTheTolerance) {
   // A disc of radius 5 from two half circles, cut by the half plane x >= 0.
-  YgPolygon* disc = YgPolygonCreate();
-  PolygonDeleter guardDisc{disc};
+  OwnedPolygon disc(YgPolygonCreate());
   LiLineAddP2d(disc, -5.0, 0.0);
   LiLineAddArc2PTo(disc, 5.0, 0.0, 5.0);
   LiLineAddArc2PTo(disc, -5.0, 0.0, 5.0);
   EXPECT_NEAR(dYgPolygonArea(disc, nullptr), 25.0 * kPi, 1e-9);
-  YgPolygon* half = Rectangle(0.0, -10.0, 10.0, 10.0);
-  PolygonDeleter guardHalf{half};
-  YgPolygon* cut = pYgPolygonPolygonClip(disc, half, kYgClipIntersection);
-  PolygonDeleter guardCut{cut};
+  OwnedPolygon half(Rectangle(0.0, -10.0, 10.0, 10.0));
+  OwnedPolygon cut(pYgPolygonPolygonClip(disc, half, kYgClipIntersection));
   ASSERT_NE(cut, nullptr);
   // Chords within 1e-4 of the circle lose at most 2/3 of that times the
   // arc's length in area.
@@ -212,23 +170,16 @@ TEST(PolygonClip, ArcsAreReplacedByChordsWithinTheTolerance) {
   }
 }
 
-TEST(PolygonSet, IdsAndDeletion) {
+// A set keeps its polygons as a line container keeps lines; what is its own
+// is that they are rings.
+TEST(PolygonSet, PolygonsOfASetAreRingsAndCopiesKeepTheirIds) {
   YgPolygons* set = YgPolygonsCreate();
-  YgPolygon* second = YgPolygonsCreatePolygon(set, 2);
   YgPolygon* first = YgPolygonsCreatePolygon(set, 1);
-  EXPECT_EQ(YgPolygonsCreatePolygon(set, 2), nullptr);
+  YgPolygon* second = YgPolygonsCreatePolygon(set, 2);
   EXPECT_TRUE(boLiLineIsPolygon(first));
-  EXPECT_EQ(YgPolygonsGetFirst(set), first);
-  EXPECT_EQ(YgPolygonsGetNext(set, first), second);
-  EXPECT_EQ(YgPolygonsFindID(set, 2), second);
   AddRectangle(second, 0.0, 0.0, 1.0, 1.0);
   EXPECT_TRUE(boYgPolygonCopy(first, second));
   EXPECT_EQ(lLiLineGetID(first), 1);
   EXPECT_EQ(iYgElmGetCount(first), 4);
-  vYgPolygonDeleteElms(first);
-  EXPECT_EQ(iYgElmGetCount(first), 0);
-  vYgPolygonsDeletePolygon(set, second);
-  EXPECT_EQ(YgPolygonsFindID(set, 2), nullptr);
   vYgPolygonsDelete(&set);
-  EXPECT_EQ(set, nullptr);
 }

@@ -1,10 +1,12 @@
+#include "parameters/factory_settings.h"
+
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "base/session.h"
-#include "parameters/factory_settings.h"
 #include "parameters/inif_file.h"
 #include "tests/base/scratch_folder.h"
 
@@ -129,12 +131,11 @@ TEST_F(FactorySettings, ReadsTunnelStandards) {
   EXPECT_TRUE(boTunnelStandardRead(6, &standard));
   EXPECT_STREQ(standard.Name, "");
 
-  EXPECT_EQ(iTunnelClassFromName("t8.5"), 5);
-  EXPECT_EQ(iTunnelClassFromName("T4"), 4);
-  EXPECT_EQ(iTunnelClassFromName("T12.5"), 6);
-  EXPECT_EQ(iTunnelClassFromName("T13.5"), 9);
-  EXPECT_EQ(iTunnelClassFromName("T15"), 1);
-  EXPECT_EQ(iTunnelClassFromName(nullptr), 1);
+  const std::pair<const char*, int> classes[] = {{"t8.5", 5},  {"T4", 4},  {"T12.5", 6},
+                                                 {"T13.5", 9}, {"T15", 1}, {nullptr, 1}};
+  for (const auto& [name, tunnelClass] : classes) {
+    EXPECT_EQ(iTunnelClassFromName(name), tunnelClass) << (name ? name : "null");
+  }
 }
 
 TEST_F(FactorySettings, TheShippedSettingsFileFillsEveryTable) {

@@ -79,31 +79,25 @@ TEST(KvrvipsTool, CheckAcceptsTheExampleDesign) {
 TEST(KvrvipsTool, CheckNamesTheFirstProblemAndWhatWasExpected) {
   ScratchFolder folder;
   const std::string bad = folder / "bad.json";
-  vWriteWholeFile(bad, R"({"format":"design-model","formatVersion":1,"results":{"sections":[)"
-                       R"({"chainage":0},{"chainage":10,"model":{"refElevation":"high"}}]}})");
-  ProgramRun run = RunTool({"check", bad});
-  EXPECT_EQ(run.iStatus, 1);
-  EXPECT_EQ(run.sOut, "");
-  EXPECT_EQ(run.sErr, "kvrvips: " + bad +
-                          " is not a valid design document\n"
-                          "  at /results/sections/1/model/refElevation: expected a number or null\n");
-
-  vWriteWholeFile(bad, R"(["design-model"])");
-  run = RunTool({"check", bad});
-  EXPECT_EQ(run.iStatus, 1);
-  EXPECT_EQ(run.sErr, "kvrvips: " + bad +
-                          " is not a valid design document\n"
-                          "  at the document root: expected an object\n");
-
-  vWriteWholeFile(bad, R"({"format":"design-model","formatVersion":2})");
-  run = RunTool({"check", bad});
-  EXPECT_EQ(run.iStatus, 1);
-  EXPECT_EQ(run.sErr, "kvrvips: " + bad +
-                          " has a newer format version than this program reads\n"
-                          "  at /formatVersion: expected a format version of at most 1\n");
-
+  const std::string invalid = "kvrvips: " + bad + " is not a valid design document\n";
+  const std::string cases[][2] = {
+      {R"({"format":"design-model","formatVersion":1,"results":{"sections":[)"
+       R"({"chainage":0},{"chainage":10,"model":{"refElevation":"high"}}]}})",
+       invalid + "  at /results/sections/1/model/refElevation: expected a number or null\n"},
+      {R"(["design-model"])", invalid + "  at the document root: expected an object\n"},
+      {R"({"format":"design-model","formatVersion":2})",
+       "kvrvips: " + bad +
+           " has a newer format version than this program reads\n"
+           "  at /formatVersion: expected a format version of at most 1\n"}};
+  for (const auto& [document, complaint] : cases) {
+    vWriteWholeFile(bad, document);
+    ProgramRun run = RunTool({"check", bad});
+    EXPECT_EQ(run.iStatus, 1) << document;
+    EXPECT_EQ(run.sOut, "") << document;
+    EXPECT_EQ(run.sErr, complaint);
+  }
   const std::string missing = folder / "missing.json";
-  run = RunTool({"check", missing});
+  ProgramRun run = RunTool({"check", missing});
   EXPECT_EQ(run.iStatus, 1);
   EXPECT_EQ(run.sErr, "kvrvips: cannot read " + missing + "\n");
 }

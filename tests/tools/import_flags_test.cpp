@@ -1,27 +1,23 @@
 // The import flag word on the command line: decimal or hexadecimal, 32 bits.
+#include "tools/import_flags.h"
+
 #include <gtest/gtest.h>
 
-#include "tools/import_flags.h"
+#include <utility>
 
 namespace {
 
 TEST(ImportFlagsText, ReadsDecimalAndHexadecimalWords) {
-  uint32_t flags = 7;
-  EXPECT_TRUE(boParseImportFlags("65535", &flags));
-  EXPECT_EQ(flags, 65535u);
-  EXPECT_TRUE(boParseImportFlags("0", &flags));
-  EXPECT_EQ(flags, 0u);
   // A leading zero does not make an octal number.
-  EXPECT_TRUE(boParseImportFlags("010", &flags));
-  EXPECT_EQ(flags, 10u);
-  EXPECT_TRUE(boParseImportFlags("0xFfFf", &flags));
-  EXPECT_EQ(flags, 65535u);
-  EXPECT_TRUE(boParseImportFlags("0X0c", &flags));
-  EXPECT_EQ(flags, 12u);
-  EXPECT_TRUE(boParseImportFlags("4294967295", &flags));
-  EXPECT_EQ(flags, 4294967295u);
-  EXPECT_TRUE(boParseImportFlags("0xffffffff", &flags));
-  EXPECT_EQ(flags, 4294967295u);
+  const std::pair<const char*, uint32_t> words[] = {
+      {"65535", 65535u},          {"0", 0u},     {"010", 10u},
+      {"0xFfFf", 65535u},         {"0X0c", 12u}, {"4294967295", 4294967295u},
+      {"0xffffffff", 4294967295u}};
+  for (const auto& [text, value] : words) {
+    uint32_t flags = 7;
+    EXPECT_TRUE(boParseImportFlags(text, &flags)) << text;
+    EXPECT_EQ(flags, value) << text;
+  }
 }
 
 TEST(ImportFlagsText, RefusesAnythingElseAndKeepsTheOldValue) {

@@ -16,7 +16,7 @@ TEST(AsfClipboard, CopyAndPasteASection) {
   boAsfSectionWriteLine(copy, section, "ROW 1", 0);
   ASSERT_TRUE(boAsfClipboardCommit(copy));
 
-  AsfFile* paste = AsfClipboardOpen();
+  OwnedFile paste(AsfClipboardOpen());
   ASSERT_NE(paste, nullptr);
   EXPECT_STREQ(sAsfFileGetType(paste), "sfi");
   EXPECT_STREQ(sAsfKeyGetValue(paste, nullptr, "LAYERONLY"), "1");
@@ -24,7 +24,6 @@ TEST(AsfClipboard, CopyAndPasteASection) {
   vPlatformClipboardClear();
   section = AsfSectionFind(paste, "PAVEMENT", kAsfTypeOther);
   EXPECT_EQ(SectionLines(paste, section), std::vector<std::string>{"ROW 1"});
-  vAsfFileClose(paste);
 }
 
 TEST(AsfClipboard, PasteRefusesOtherFileTypesAndEmptiness) {
@@ -36,11 +35,9 @@ TEST(AsfClipboard, PasteRefusesOtherFileTypesAndEmptiness) {
   EXPECT_EQ(AsfClipboardOpen(), nullptr);
   std::string upper = "[KVRFILE_ASCII]\r\n_FILETYPE SFI\r\n[O_A]\r\n[END]\r\n";
   vPlatformClipboardSet(upper.data(), upper.size());
-  AsfFile* paste = AsfClipboardOpen();
-  EXPECT_NE(paste, nullptr);
-  vAsfFileClose(paste);
+  EXPECT_NE(OwnedFile(AsfClipboardOpen()), nullptr);
   // A handle on a file is no clipboard copy; it is closed all the same.
-  std::string path = testing::TempDir() + "asf_clipboard_file.sfi";
-  EXPECT_FALSE(boAsfClipboardCommit(AsfFileCreate(path.c_str())));
+  ScratchFolder folder;
+  EXPECT_FALSE(boAsfClipboardCommit(AsfFileCreate((folder / "model.sfi").c_str())));
   vPlatformClipboardClear();
 }

@@ -1,4 +1,5 @@
 // Field values of the record being read, their bindings, and the filter.
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <cstring>
@@ -7,6 +8,7 @@
 #include "model_file/container/asf_file.h"
 #include "model_file/container/asf_handle.h"
 #include "model_file/container/asf_keys_fields.h"
+#include "tests/model_file/container/asf_test_util.h"
 
 namespace {
 
@@ -28,7 +30,7 @@ std::string Value(AsfFile* file, AsfSection* section, int index) {
 }  // namespace
 
 TEST(AsfFields, ValuesAreSplitAtUnescapedSemicolonsAndCopiedToBindings) {
-  AsfFile* file = AsfFileCreate(nullptr);
+  OwnedFile file(AsfFileCreate(nullptr));
   AsfSection* section = AsfSectionAdd(file, "L", kAsfTypeLine);
   for (const char* name : {"CHAIN", "NAME", "NOTE", "EMPTY"}) {
     vAsfFieldNameSet(file, section, iAsfFieldCount(file, section), name);
@@ -71,19 +73,14 @@ TEST(AsfFields, ValuesAreSplitAtUnescapedSemicolonsAndCopiedToBindings) {
   EXPECT_STREQ(name, "");
   EXPECT_TRUE(boAsfFieldNext(file, section, &field, &value));
   EXPECT_FALSE(boAsfFieldNext(file, section, &field, &value));
-  vAsfFileClose(file);
 }
 
 TEST(AsfFields, FilterIsRoundedOutwardAndCleared) {
-  AsfFile* file = AsfFileCreate(nullptr);
+  OwnedFile file(AsfFileCreate(nullptr));
   AsfExtent filter{-5.5, -2.1, 4.2, 7.0};
   vAsfFilterSet(file, &filter);
   ASSERT_NE(file->pFilter, nullptr);
-  EXPECT_EQ(file->aiFilter[0], -6);
-  EXPECT_EQ(file->aiFilter[1], -3);
-  EXPECT_EQ(file->aiFilter[2], 5);
-  EXPECT_EQ(file->aiFilter[3], 7);
+  EXPECT_THAT(file->aiFilter, testing::ElementsAre(-6, -3, 5, 7));
   vAsfFilterSet(file, nullptr);
   EXPECT_EQ(file->pFilter, nullptr);
-  vAsfFileClose(file);
 }

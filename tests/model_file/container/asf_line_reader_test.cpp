@@ -1,11 +1,13 @@
 // The line reader: terminators, pending bytes, capacities, moving to a line.
+#include "model_file/container/asf_line_reader.h"
+
 #include <gtest/gtest.h>
 
 #include <string>
 #include <vector>
 
-#include "model_file/container/asf_line_reader.h"
 #include "model_file/container/asf_stream.h"
+#include "tests/base/scratch_folder.h"
 
 namespace {
 
@@ -16,12 +18,6 @@ class Reader {
       : bytes_(bytes),
         stream_(AsfStreamOpenMem(bytes_.data(), bytes_.size())),
         reader_(AsfLineReaderCreate(stream_)) {}
-  ~Reader() {
-    vAsfLineReaderDelete(reader_);
-    boAsfStreamClose(stream_);
-  }
-  Reader(const Reader&) = delete;
-  Reader& operator=(const Reader&) = delete;
 
   AsfLineReader* get() { return reader_; }
 
@@ -37,8 +33,8 @@ class Reader {
 
  private:
   std::string bytes_;
-  AsfStream* stream_;
-  AsfLineReader* reader_;
+  Owned<AsfStream, boAsfStreamClose> stream_;
+  Owned<AsfLineReader, vAsfLineReaderDelete> reader_;
 };
 
 using Lines = std::vector<std::string>;

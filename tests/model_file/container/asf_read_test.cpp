@@ -20,6 +20,22 @@ std::string Join(const Lines& lines) {
   return text;
 }
 
+std::vector<double> Extent(const AsfExtent* extent) {
+  return {extent->dMinX, extent->dMinY, extent->dMaxX, extent->dMaxY};
+}
+
+// The keys of the file's head or of a section as "NAME=value", in order.
+std::vector<std::string> Keys(AsfFile* file, AsfSection* section) {
+  std::vector<std::string> keys;
+  const char* name;
+  const char* value;
+  for (int i = 0; boAsfKeyAt(file, section, i, &name, &value); ++i) {
+    keys.push_back(std::string(name) + "=" + value);
+  }
+  EXPECT_STREQ(name, "") << "behind the last key";
+  return keys;
+}
+
 std::vector<std::string> FieldNames(AsfFile* file, AsfSection* section) {
   std::vector<std::string> names;
   const char* name;
@@ -32,7 +48,7 @@ const Lines kHead = {"[KVRFILE_ASCII]", "_VERSION 2", "_FILETYPE sfi", "_INDEX !
 }  // namespace
 
 TEST(AsfRead, CurrentFormatWithEmptySectionsInFrontAndBehind) {
-  AsfFile* file = AsfFileOpen(FixturePath("current_format.sfi").c_str());
+  OwnedFile file(AsfFileOpen(FixturePath("current_format.sfi").c_str()));
   ASSERT_NE(file, nullptr);
   EXPECT_STREQ(sAsfFileGetType(file), "sfi");
   EXPECT_EQ(iAsfFileGetVersion(file), 2);
@@ -76,22 +92,20 @@ TEST(AsfRead, CurrentFormatWithEmptySectionsInFrontAndBehind) {
   EXPECT_EQ(behind->iLine, 0);
   EXPECT_EQ(AsfSectionFind(file, "SURFGEN", kAsfTypeLine), nullptr);
   EXPECT_EQ(AsfSectionAt(file, 5), nullptr);
-  vAsfFileClose(file);
 }
 
 TEST(AsfRead, MixedLineEndsReadAsTheSameLines) {
-  AsfFile* file = AsfFileOpen(FixturePath("mixed_line_ends.sfi").c_str());
+  OwnedFile file(AsfFileOpen(FixturePath("mixed_line_ends.sfi").c_str()));
   ASSERT_NE(file, nullptr);
   EXPECT_STREQ(sAsfFileGetType(file), "txt");
   AsfSection* mixed = AsfSectionFind(file, "MIXED", kAsfTypeOther);
   ASSERT_NE(mixed, nullptr);
   EXPECT_EQ(SectionLines(file, mixed),
             (Lines{"first", "second", "third", "fourth", "fifth", "sixth"}));
-  vAsfFileClose(file);
 }
 
 TEST(AsfRead, OlderFormatMakesSectionsFromLayers) {
-  AsfFile* file = AsfFileOpen(FixturePath("older_format.sfi").c_str());
+  OwnedFile file(AsfFileOpen(FixturePath("older_format.sfi").c_str()));
   ASSERT_NE(file, nullptr);
   EXPECT_EQ(iAsfFileGetVersion(file), 1);
   EXPECT_STREQ(sAsfFileGetType(file), "sfi");
@@ -110,11 +124,7 @@ TEST(AsfRead, OlderFormatMakesSectionsFromLayers) {
 
   AsfSection* roads = AsfSectionFind(file, "ROADS", kAsfTypeLine);
   EXPECT_EQ(FieldNames(file, roads), (std::vector<std::string>{"NAME", "WIDTH"}));
-  const AsfExtent* extent = AsfExtentGet(file, roads);
-  EXPECT_EQ(extent->dMinX, 10);
-  EXPECT_EQ(extent->dMinY, 20);
-  EXPECT_EQ(extent->dMaxX, 30);
-  EXPECT_EQ(extent->dMaxY, 40);
+  EXPECT_EQ(Extent(AsfExtentGet(file, roads)), (std::vector<double>{10, 20, 30, 40}));
   AsfSection* points = AsfSectionFind(file, "SIGNS", kAsfTypePoint);
   AsfSection* texts = AsfSectionFind(file, "SIGNS", kAsfTypeText);
   EXPECT_EQ(FieldNames(file, points), (std::vector<std::string>{"KIND"}));
@@ -123,27 +133,29 @@ TEST(AsfRead, OlderFormatMakesSectionsFromLayers) {
 
   AsfSection* comments = AsfSectionFind(file, "COMMENTS", kAsfTypeOther);
   EXPECT_EQ(SectionLines(file, comments), (Lines{"First comment", "Second comment"}));
-  vAsfFileClose(file);
 }
 
 TEST(AsfRead, RefusesFilesWithoutSectionsOrEnd) {
+  ScratchFolder folder;
+  // Whether the bytes, written to a file, open.
+  auto opensAsFile = [&](const std::string& bytes) {
+    vWriteWholeFile(folder / "model.sfi", bytes);
+    OwnedFile file(AsfFileOpen((folder / "model.sfi").c_str()));
+    return file.get() != nullptr;
+  };
   std::string onlyHead = Join(kHead) + "DATAVERSION 13\r\n[END]\r\n";
   EXPECT_EQ(AsfFileOpenMem(onlyHead.data(), onlyHead.size()), nullptr);
-  EXPECT_EQ(AsfFileOpen(WriteFileBytes("only_head.sfi", onlyHead).c_str()), nullptr);
+  EXPECT_FALSE(opensAsFile(onlyHead));
 
   std::string cut = Join(kHead) + "[O_A]\r\n[+O_A]\r\nline\r\n";
-  EXPECT_EQ(AsfFileOpen(WriteFileBytes("cut.sfi", cut).c_str()), nullptr);
+  EXPECT_FALSE(opensAsFile(cut));
   // Memory is not checked for its tail.
-  AsfFile* file = AsfFileOpenMem(cut.data(), cut.size());
+  OwnedFile file(AsfFileOpenMem(cut.data(), cut.size()));
   ASSERT_NE(file, nullptr);
   EXPECT_EQ(SectionLines(file, AsfSectionFind(file, "A", kAsfTypeOther)), Lines{"line"});
-  vAsfFileClose(file);
-
   // The tail's last "[" counts, in any case.
-  file = AsfFileOpen(WriteFileBytes("lower.sfi", cut + "[end]").c_str());
-  EXPECT_NE(file, nullptr);
-  vAsfFileClose(file);
-  EXPECT_EQ(AsfFileOpen(WriteFileBytes("late.sfi", cut + "[END]\r\n[\r\n").c_str()), nullptr);
+  EXPECT_TRUE(opensAsFile(cut + "[end]"));
+  EXPECT_FALSE(opensAsFile(cut + "[END]\r\n[\r\n"));
 
   const std::string refused[] = {"", "[KVRFILE_ASCII", "KVRFILE_ASCII]\r\n[O_A]\r\n",
                                  std::string("\0\x01\xff[O_A]\r\n", 9), "[HEAD]\r\nVERSION 1\r\n"};
@@ -163,7 +175,7 @@ TEST(AsfRead, LongHeadLinesAreReadWholeAndBodyLinesAreCut) {
   std::string bytes = Join(kHead) + "_FIELDNAMES " + names + "\r\n" + Join({"[L_WIDE]"}) +
                       "_FIELDNAMES " + names + "\r\nLONG " + longKey + "\r\nAFTER 1\r\n" +
                       Join({"[O_TEXT]", "[+O_TEXT]", bodyLine, "next", "[END]"});
-  AsfFile* file = AsfFileOpenMem(bytes.data(), bytes.size());
+  OwnedFile file(AsfFileOpenMem(bytes.data(), bytes.size()));
   ASSERT_NE(file, nullptr);
   // A head line named "_FIELDNAMES" is a head key like any other.
   EXPECT_EQ(strlen(sAsfKeyGetValue(file, nullptr, "_FIELDNAMES")), names.size());
@@ -182,16 +194,14 @@ TEST(AsfRead, LongHeadLinesAreReadWholeAndBodyLinesAreCut) {
   ASSERT_EQ(lines.size(), 2u);
   EXPECT_EQ(lines[0], bodyLine.substr(0, 9999));
   EXPECT_EQ(lines[1], "next");
-  vAsfFileClose(file);
 
   // The same from a file, whose tail check leaves the line buffer empty.
-  file = AsfFileOpen(FixturePath("long_lines.sfi").c_str());
-  ASSERT_NE(file, nullptr);
-  EXPECT_EQ(strlen(sAsfKeyGetValue(file, nullptr, "NOTE")), 10500u);
-  EXPECT_EQ(iAsfFieldCount(file, AsfSectionFind(file, "WIDE", kAsfTypeLine)), 1100);
-  lines = SectionLines(file, AsfSectionFind(file, "TEXT", kAsfTypeOther));
-  EXPECT_EQ(lines, (Lines{std::string(9999, 't'), "short"}));
-  vAsfFileClose(file);
+  OwnedFile fromDisk(AsfFileOpen(FixturePath("long_lines.sfi").c_str()));
+  ASSERT_NE(fromDisk, nullptr);
+  EXPECT_EQ(strlen(sAsfKeyGetValue(fromDisk, nullptr, "NOTE")), 10500u);
+  EXPECT_EQ(iAsfFieldCount(fromDisk, AsfSectionFind(fromDisk, "WIDE", kAsfTypeLine)), 1100);
+  EXPECT_EQ(SectionLines(fromDisk, AsfSectionFind(fromDisk, "TEXT", kAsfTypeOther)),
+            (Lines{std::string(9999, 't'), "short"}));
 }
 
 TEST(AsfRead, DirectoryRulesAndKeyValues) {
@@ -199,38 +209,25 @@ TEST(AsfRead, DirectoryRulesAndKeyValues) {
                       Join({"_EXTENT 1 2 3 4", "lower skipped", "NOTE two\\nlines", "BARE",
                             "[L_A]", "_EXTENT 5 6", "COLOR red", "9 skipped", "[Y_B]",
                             "_EXTENT 1 1 2 2", "[P]", "[+L_A]", "[END]"});
-  AsfFile* file = AsfFileOpenMem(bytes.data(), bytes.size());
+  OwnedFile file(AsfFileOpenMem(bytes.data(), bytes.size()));
   ASSERT_NE(file, nullptr);
-  const char* name;
-  const char* value;
-  EXPECT_TRUE(boAsfKeyAt(file, nullptr, 0, &name, &value));
-  EXPECT_STREQ(name, "NOTE");
-  EXPECT_STREQ(value, "two\\nlines");
-  EXPECT_TRUE(boAsfKeyAt(file, nullptr, 1, &name, &value));
-  EXPECT_STREQ(name, "BARE");
-  EXPECT_STREQ(value, "");
-  EXPECT_FALSE(boAsfKeyAt(file, nullptr, 2, &name, &value));
-  EXPECT_STREQ(name, "");
+  EXPECT_EQ(Keys(file, nullptr), (Lines{"NOTE=two\\nlines", "BARE="}));
   // A section extent with fewer than four numbers resets the file's extent;
   // the section keeps what was read.
   EXPECT_TRUE(AsfExtentGet(file, nullptr)->dMaxX < AsfExtentGet(file, nullptr)->dMinX);
   AsfSection* a = AsfSectionAt(file, 0);
-  EXPECT_EQ(a->extent.dMinX, 5);
-  EXPECT_EQ(a->extent.dMinY, 6);
-  EXPECT_EQ(a->extent.dMaxX, kAsfExtentEmptyMax);
-  EXPECT_TRUE(boAsfKeyAt(file, a, 0, &name, &value));
-  EXPECT_STREQ(name, "COLOR");
-  EXPECT_FALSE(boAsfKeyAt(file, a, 1, &name, &value));
+  EXPECT_EQ(Extent(&a->extent),
+            (std::vector<double>{5, 6, kAsfExtentEmptyMax, kAsfExtentEmptyMax}));
+  EXPECT_EQ(Keys(file, a), Lines{"COLOR=red"});
   // "[P]" has no "_" and ends the directory.
   EXPECT_EQ(AsfSectionAt(file, 2), nullptr);
   EXPECT_EQ(iAsfSectionGetType(AsfSectionAt(file, 1)), kAsfTypePolygon);
-  vAsfFileClose(file);
 }
 
 TEST(AsfRead, SectionsOutOfOrderAreFoundAfterAWrap) {
   std::string bytes = Join(kHead) + Join({"[O_A]", "[O_B]", "[+O_A]", "a1", "a2", "[+O_B]",
                                           "b1", "[END]"});
-  AsfFile* file = AsfFileOpenMem(bytes.data(), bytes.size());
+  OwnedFile file(AsfFileOpenMem(bytes.data(), bytes.size()));
   ASSERT_NE(file, nullptr);
   AsfSection* a = AsfSectionFind(file, "A", kAsfTypeOther);
   AsfSection* b = AsfSectionFind(file, "B", kAsfTypeOther);
@@ -245,5 +242,4 @@ TEST(AsfRead, SectionsOutOfOrderAreFoundAfterAWrap) {
   EXPECT_EQ(lAsfStreamLength(nullptr), -1);
   EXPECT_EQ(lAsfStreamPos(nullptr), -1);
   EXPECT_STREQ(file->acPath, "mem");
-  vAsfFileClose(file);
 }

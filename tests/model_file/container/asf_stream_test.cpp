@@ -1,9 +1,11 @@
 // Memory and file streams under the container.
+#include "model_file/container/asf_stream.h"
+
 #include <gtest/gtest.h>
 
 #include <string>
 
-#include "model_file/container/asf_stream.h"
+#include "tests/base/scratch_folder.h"
 
 TEST(AsfStream, MemoryBlockGrowsByAGrowingStep) {
   AsfStream* stream = AsfStreamCreateMem();
@@ -55,7 +57,8 @@ TEST(AsfStream, ReadOnlyBlockReadsWhatIsLeftAndRefusesWrites) {
 }
 
 TEST(AsfStream, FileStreamSeeksAndSizes) {
-  std::string path = testing::TempDir() + "asf_stream_file.bin";
+  ScratchFolder folder;
+  std::string path = folder / "stream.bin";
   AsfStream* stream = AsfStreamOpenFile(path.c_str(), "wb");
   ASSERT_NE(stream, nullptr);
   EXPECT_EQ(uAsfStreamWrite(stream, "hello world", 11), 11u);

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <vector>
 
 #include "model_file/container/asf_file.h"
 #include "model_file/container/asf_handle.h"
@@ -68,7 +69,7 @@ const std::string kSampleBytes =
 }  // namespace
 
 TEST(AsfWrite, MemoryHandleWritesHeadDirectoryBodiesAndPatchedPlaceholders) {
-  AsfFile* file = AsfFileCreate(nullptr);
+  OwnedFile file(AsfFileCreate(nullptr));
   ASSERT_NE(file, nullptr);
   EXPECT_STREQ(file->acPath, "ClipBoard");
   vWriteSample(file);
@@ -79,21 +80,22 @@ TEST(AsfWrite, MemoryHandleWritesHeadDirectoryBodiesAndPatchedPlaceholders) {
   EXPECT_TRUE(boAsfFileFinish(file));
   EXPECT_EQ(MemBytes(file), kSampleBytes);
   EXPECT_FALSE(boAsfFileWriteFailed(file));
-  vAsfFileClose(file);
 }
 
 TEST(AsfWrite, FileHandleWritesTheSameBytes) {
-  std::string path = testing::TempDir() + "asf_write_sample.sfi";
-  AsfFile* file = AsfFileCreate(path.c_str());
-  ASSERT_NE(file, nullptr);
-  vWriteSample(file);
-  EXPECT_FALSE(boAsfMemGet(file, nullptr, nullptr));
-  vAsfFileClose(file);
-  EXPECT_EQ(ReadFileBytes(path), kSampleBytes);
+  ScratchFolder folder;
+  std::string path = folder / "sample.sfi";
+  {
+    OwnedFile file(AsfFileCreate(path.c_str()));
+    ASSERT_NE(file, nullptr);
+    vWriteSample(file);
+    EXPECT_FALSE(boAsfMemGet(file, nullptr, nullptr));
+  }
+  EXPECT_EQ(sReadWholeFile(path), kSampleBytes);
 }
 
 TEST(AsfWrite, KeyLinesAreCutToTheirBuffers) {
-  AsfFile* file = AsfFileCreate(nullptr);
+  OwnedFile file(AsfFileCreate(nullptr));
   std::string longName(300, 'N');
   std::string longValue(12000, 'v');
   vAsfKeySet(file, nullptr, longName.c_str(), "lost");
@@ -112,11 +114,10 @@ TEST(AsfWrite, KeyLinesAreCutToTheirBuffers) {
                          "[O_S]\r\n" + "K " + std::string(9997, 'v') + "\r\n" + "B " +
                          std::string(9996, 'w') + "\r\n";
   EXPECT_EQ(MemBytes(file), expected);
-  vAsfFileClose(file);
 }
 
 TEST(AsfWrite, FieldNamesLongerThanTheLineBufferStayOneLine) {
-  AsfFile* file = AsfFileCreate(nullptr);
+  OwnedFile file(AsfFileCreate(nullptr));
   AsfSection* section = AsfSectionAdd(file, "WIDE", kAsfTypeLine);
   std::string names;
   for (int i = 0; i < 1200; ++i) {
@@ -126,37 +127,33 @@ TEST(AsfWrite, FieldNamesLongerThanTheLineBufferStayOneLine) {
   }
   EXPECT_EQ(iAsfFieldCount(file, section), 1200);
   ASSERT_TRUE(boAsfFileWriteHead(file));
-  std::string bytes = MemBytes(file);
   std::string line = "\r\n_FIELDNAMES " + names + "\r\n";
   EXPECT_GT(line.size(), 10000u);
-  ASSERT_GE(bytes.size(), line.size());
-  EXPECT_EQ(bytes.substr(bytes.size() - line.size()), line);
-  vAsfFileClose(file);
+  EXPECT_TRUE(MemBytes(file).ends_with(line));
 }
 
 TEST(AsfWrite, SectionNamesAreCutTo35Characters) {
-  AsfFile* file = AsfFileCreate(nullptr);
+  OwnedFile file(AsfFileCreate(nullptr));
   std::string name40 = "ABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789WXYZ";
+  std::string name35 = name40.substr(0, 35);
   AsfSection* section = AsfSectionAdd(file, name40.c_str(), kAsfTypeOther);
-  EXPECT_STREQ(sAsfSectionGetName(section), name40.substr(0, 35).c_str());
+  EXPECT_EQ(sAsfSectionGetName(section), name35);
   ASSERT_TRUE(boAsfFileWriteHead(file));
   boAsfSectionWriteLine(file, section, "x", 0);
   boAsfFileFinish(file);
   std::string bytes = MemBytes(file);
-  vAsfFileClose(file);
-  EXPECT_NE(bytes.find("[O_" + name40.substr(0, 35) + "]\r\n"), std::string::npos);
+  EXPECT_NE(bytes.find("[O_" + name35 + "]\r\n"), std::string::npos);
 
-  AsfFile* read = AsfFileOpenMem(bytes.data(), bytes.size());
+  OwnedFile read(AsfFileOpenMem(bytes.data(), bytes.size()));
   ASSERT_NE(read, nullptr);
   EXPECT_EQ(AsfSectionFind(read, name40.c_str(), kAsfTypeOther), nullptr);
-  section = AsfSectionFind(read, name40.substr(0, 35).c_str(), kAsfTypeOther);
+  section = AsfSectionFind(read, name35.c_str(), kAsfTypeOther);
   ASSERT_NE(section, nullptr);
   EXPECT_EQ(SectionLines(read, section), std::vector<std::string>{"x"});
-  vAsfFileClose(read);
 }
 
 TEST(AsfWrite, BodiesFollowWhatWasWrittenLastAndUnknownTypesStopTheHead) {
-  AsfFile* file = AsfFileCreate(nullptr);
+  OwnedFile file(AsfFileCreate(nullptr));
   AsfSection* a = AsfSectionAdd(file, "A", kAsfTypeOther);
   AsfSection* b = AsfSectionAdd(file, "B", kAsfTypeOther);
   ASSERT_TRUE(boAsfFileWriteHead(file));
@@ -165,27 +162,24 @@ TEST(AsfWrite, BodiesFollowWhatWasWrittenLastAndUnknownTypesStopTheHead) {
   boAsfSectionWriteLine(file, a, "a1", 0);
   std::string bytes = MemBytes(file);
   EXPECT_EQ(bytes.substr(bytes.find("[+")), "[+O_A]\r\n[+O_B]\r\nb1\r\na1\r\n");
-  vAsfFileClose(file);
 
-  file = AsfFileCreate(nullptr);
-  AsfSectionAdd(file, "A", kAsfTypeOther);
-  AsfSection* odd = AsfSectionAdd(file, "ODD", 7);
-  AsfSectionAdd(file, "C", kAsfTypeOther);
-  EXPECT_FALSE(boAsfFileWriteHead(file));
-  bytes = MemBytes(file);
-  EXPECT_EQ(bytes.substr(bytes.size() - 7), "[O_A]\r\n");
-  EXPECT_FALSE(boAsfSectionWriteLine(file, odd, "x", 0));
-  vAsfFileClose(file);
+  OwnedFile stopped(AsfFileCreate(nullptr));
+  AsfSectionAdd(stopped, "A", kAsfTypeOther);
+  AsfSection* odd = AsfSectionAdd(stopped, "ODD", 7);
+  AsfSectionAdd(stopped, "C", kAsfTypeOther);
+  EXPECT_FALSE(boAsfFileWriteHead(stopped));
+  EXPECT_TRUE(MemBytes(stopped).ends_with("[O_A]\r\n"));
+  EXPECT_FALSE(boAsfSectionWriteLine(stopped, odd, "x", 0));
 }
 
 TEST(AsfWrite, CreateFailureIsShownAndShortWritesStick) {
   {
-    MessageCatcher catcher;
+    CapturedMessages shown;
     EXPECT_EQ(AsfFileCreate("/no-such-folder/model.sfi"), nullptr);
-    ASSERT_EQ(MessageCatcher::texts().size(), 1u);
-    EXPECT_EQ(MessageCatcher::texts()[0], "Error creating:\n/no-such-folder/model.sfi");
+    EXPECT_EQ(shown.texts(),
+              std::vector<std::string>{"Error creating:\n/no-such-folder/model.sfi"});
   }
-  AsfFile* file = AsfFileCreate("/dev/full");
+  OwnedFile file(AsfFileCreate("/dev/full"));
   if (!file) GTEST_SKIP() << "no /dev/full here";
   AsfSection* section = AsfSectionAdd(file, "S", kAsfTypeOther);
   boAsfFileWriteHead(file);
@@ -196,5 +190,4 @@ TEST(AsfWrite, CreateFailureIsShownAndShortWritesStick) {
   EXPECT_TRUE(boAsfFileWriteFailed(file));
   EXPECT_FALSE(boAsfFileFinish(file));
   EXPECT_TRUE(boAsfFileWriteFailed(file));
-  vAsfFileClose(file);
 }

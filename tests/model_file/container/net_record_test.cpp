@@ -35,15 +35,25 @@ PtCloud* MakeCloud(long id, int count) {
   return cloud;
 }
 
+ViPoint3d PointOf(const TrNet* net, int index) {
+  ViPoint3d point{};
+  EXPECT_TRUE(boTrNetGetP(net, index, &point)) << index;
+  return point;
+}
+
+TrTriangle TriangleOf(const TrNet* net, int index) {
+  TrTriangle triangle{};
+  EXPECT_TRUE(boTrNetGetTriangle(net, index, &triangle)) << index;
+  return triangle;
+}
+
 }  // namespace
 
 TEST(AsfNetRecord, NetsAreWrittenAgainstTheirOffsetAndReadBack) {
-  TrNet* net = MakeNet();
-  AsfSection* section = nullptr;
-  AsfFile* file = CreateRecordFile(kAsfTypeNet, {}, &section);
-  EXPECT_TRUE(boAsfNetWrite(file, section, net, nullptr, nullptr));
-  std::string bytes = FinishedBytes(file);
-  vAsfFileClose(file);
+  OwnedNet net(MakeNet());
+  RecordWriter writer(kAsfTypeNet, {});
+  EXPECT_TRUE(boAsfNetWrite(writer.file, writer.section, net, nullptr, nullptr));
+  std::string bytes = writer.Finish();
   EXPECT_EQ(BodyOf(bytes),
             ":N 31\r\n_EXTENT 1000 2000 1010 2011 \r\nGUID {N}\r\n_#POINTS 3\r\n"
             "_#TRIANGLES 1\r\n_OFFSET_NE 1000.000000 2000.000000\r\n"
@@ -51,26 +61,19 @@ TEST(AsfNetRecord, NetsAreWrittenAgainstTheirOffsetAndReadBack) {
             "/TRIANGLES2\r\n0 1 2\r\n"
             "/PATTRIBS INTENSITY\r\n5 6 7\r\n");
 
-  file = AsfFileOpenMem(bytes.data(), bytes.size());
-  ASSERT_NE(file, nullptr);
-  section = AsfSectionFind(file, "S", kAsfTypeNet);
+  RecordReader reader(bytes, kAsfTypeNet);
   long id = 0;
-  ASSERT_EQ(iAsfObjectNext(file, section, &id), kAsfTypeNet);
+  ASSERT_EQ(reader.Next(&id), kAsfTypeNet);
   EXPECT_EQ(id, 31);
-  PtCloud* wrongKind = PtCloudCreate();
-  EXPECT_FALSE(boAsfCloudRead(file, section, wrongKind));
-  vPtCloudDelete(&wrongKind);
-  TrNet* copy = TrNetCreate();
-  ASSERT_TRUE(boAsfNetRead(file, section, copy));
+  EXPECT_FALSE(boAsfCloudRead(reader.file, reader.section, OwnedCloud(PtCloudCreate())));
+  OwnedNet copy(TrNetCreate());
+  ASSERT_TRUE(boAsfNetRead(reader.file, reader.section, copy));
   EXPECT_STREQ(sTrNetGetGuid(copy), "{N}");
   ASSERT_EQ(iTrNetGetPointCount(copy), 3);
   for (int i = 0; i < 3; ++i) {
-    ViPoint3d want;
-    ViPoint3d got;
-    boTrNetGetP(net, i, &want);
-    boTrNetGetP(copy, i, &got);
-    EXPECT_NEAR(got.x, want.x, 0.00005) << i;
-    EXPECT_NEAR(got.y, want.y, 0.00005) << i;
+    const ViPoint3d want = PointOf(net, i);
+    const ViPoint3d got = PointOf(copy, i);
+    EXPECT_TRUE(Near(got, want.x, want.y, 0.00005)) << i;
     EXPECT_NEAR(got.z, want.z, 0.00005) << i;
     EXPECT_EQ(iTrNetGetPointAttribInt(copy, kViPointAttribIntensity, i), 5 + i);
   }
@@ -82,28 +85,20 @@ TEST(AsfNetRecord, NetsAreWrittenAgainstTheirOffsetAndReadBack) {
   EXPECT_EQ(offsetX, 1000);
   EXPECT_EQ(offsetY, 2000);
   ASSERT_EQ(iTrNetGetTriangleCount(copy), 1);
-  TrTriangle triangle;
-  boTrNetGetTriangle(copy, 0, &triangle);
-  EXPECT_EQ(triangle.iPoint[2], 2);
-  EXPECT_EQ(triangle.iNeighbour[0], -1);
-  EXPECT_EQ(iAsfObjectNext(file, section, &id), -1);
-  vTrNetDelete(&copy);
-  vAsfFileClose(file);
-  vTrNetDelete(&net);
+  EXPECT_EQ(TriangleOf(copy, 0).iPoint[2], 2);
+  EXPECT_EQ(TriangleOf(copy, 0).iNeighbour[0], -1);
+  EXPECT_EQ(reader.Next(&id), -1);
 }
 
 TEST(AsfNetRecord, CloudsFillAttributeLinesToSixteenAndMayHaveNoPoints) {
-  PtCloud* full = MakeCloud(41, 16);
-  PtCloud* empty = MakeCloud(42, 0);
-  PtCloud* more = MakeCloud(43, 17);
+  const int counts[] = {16, 0, 17};
   FieldValues fields{{"a"}};
-  AsfSection* section = nullptr;
-  AsfFile* file = CreateRecordFile(kAsfTypeCloud, {"F"}, &section);
-  for (PtCloud* cloud : {full, empty, more}) {
-    EXPECT_TRUE(boAsfCloudWrite(file, section, cloud, boFieldValue, &fields));
+  RecordWriter writer(kAsfTypeCloud, {"F"});
+  for (int i = 0; i < 3; ++i) {
+    OwnedCloud cloud(MakeCloud(41 + i, counts[i]));
+    EXPECT_TRUE(boAsfCloudWrite(writer.file, writer.section, cloud, boFieldValue, &fields));
   }
-  std::string bytes = FinishedBytes(file);
-  vAsfFileClose(file);
+  std::string bytes = writer.Finish();
   std::string body = BodyOf(bytes);
   EXPECT_EQ(body.substr(0, body.find(":C 43")),
             ":C 41\r\n_EXTENT 0 0 15 0 \r\n_FIELDVALUES a;\r\nGUID \r\n_#POINTS 16\r\n"
@@ -113,65 +108,49 @@ TEST(AsfNetRecord, CloudsFillAttributeLinesToSixteenAndMayHaveNoPoints) {
             "/PATTRIBS CLASSIFICATION\r\n0 1 2 3 4 5 6 7 8 9 10 11 12 13 14 15\r\n"
             ":C 42\r\n_EXTENT 99999999 99999999 -99999999 -99999999 \r\n_FIELDVALUES a;\r\n"
             "GUID \r\n_#POINTS 0\r\n_OFFSET_NE 0.000000 0.000000\r\n");
-  std::string tail = "/PATTRIBS CLASSIFICATION\r\n0 1 2 3 4 5 6 7 8 9 10 11 12 13 14 15\r\n16\r\n";
-  EXPECT_EQ(body.substr(body.size() - tail.size()), tail);
+  EXPECT_TRUE(body.ends_with(
+      "/PATTRIBS CLASSIFICATION\r\n0 1 2 3 4 5 6 7 8 9 10 11 12 13 14 15\r\n16\r\n"));
 
-  file = AsfFileOpenMem(bytes.data(), bytes.size());
-  ASSERT_NE(file, nullptr);
-  section = AsfSectionFind(file, "S", kAsfTypeCloud);
-  const int counts[] = {16, 0, 17};
+  RecordReader reader(bytes, kAsfTypeCloud);
   for (int count : counts) {
-    long id = 0;
-    ASSERT_EQ(iAsfObjectNext(file, section, &id), kAsfTypeCloud) << count;
-    EXPECT_EQ(ReadValues(file, section), std::vector<std::string>{"a"});
-    PtCloud* copy = PtCloudCreate();
-    ASSERT_TRUE(boAsfCloudRead(file, section, copy));
+    ASSERT_EQ(reader.Next(), kAsfTypeCloud) << count;
+    EXPECT_EQ(ReadValues(reader.file, reader.section), std::vector<std::string>{"a"});
+    OwnedCloud copy(PtCloudCreate());
+    ASSERT_TRUE(boAsfCloudRead(reader.file, reader.section, copy));
     ASSERT_EQ(iPtCloudGetPointCount(copy), count);
     EXPECT_EQ(boPtCloudGetUsePointAttrib(copy, kViPointAttribClass), count > 0);
     if (count > 0) {
       EXPECT_EQ(iPtCloudGetPointAttribInt(copy, kViPointAttribClass, count - 1), count - 1);
-      ViPoint3d last;
-      boPtCloudGetP(copy, count - 1, &last);
+      ViPoint3d last{};
+      EXPECT_TRUE(boPtCloudGetP(copy, count - 1, &last));
       EXPECT_EQ(last.x, count - 1);
     }
-    vPtCloudDelete(&copy);
   }
-  EXPECT_EQ(iAsfObjectNext(file, section, nullptr), -1);
-  vAsfFileClose(file);
-  for (PtCloud* cloud : {full, empty, more}) vPtCloudDelete(&cloud);
+  EXPECT_EQ(reader.Next(), -1);
 }
 
 TEST(AsfNetRecord, OlderPointAndTriangleFormsCarryIndexesAndNeighbours) {
-  std::string bytes = FileWithBody(
-      'N', "",
-      ":N 5\r\n_#POINTS 3\r\n_#TRIANGLES 2\r\n/POINTS\r\n"
-      "0: 100 200 1\r\n1 110 200 2\r\n2000000000: 1 2 3\r\n2 : 100 210 3\r\n"
-      "/TRIANGLES\r\n0: 0 1 2 ( -1 1 -1\r\n1 2 1 0\r\n"
-      "/OTHER\r\nx\r\n/PATTRIBS CLASSIFICATION\r\n1 2\r\n3 4\r\n/PATTRIBS NOISE\r\n9\r\n");
-  AsfFile* file = AsfFileOpenMem(bytes.data(), bytes.size());
-  ASSERT_NE(file, nullptr);
-  AsfSection* section = AsfSectionFind(file, "S", kAsfTypeNet);
-  ASSERT_EQ(iAsfObjectNext(file, section, nullptr), kAsfTypeNet);
-  TrNet* net = TrNetCreate();
-  ASSERT_TRUE(boAsfNetRead(file, section, net));
+  RecordReader reader(
+      FileWithBody('N', "",
+                   ":N 5\r\n_#POINTS 3\r\n_#TRIANGLES 2\r\n/POINTS\r\n"
+                   "0: 100 200 1\r\n1 110 200 2\r\n2000000000: 1 2 3\r\n2 : 100 210 3\r\n"
+                   "/TRIANGLES\r\n0: 0 1 2 ( -1 1 -1\r\n1 2 1 0\r\n/OTHER\r\nx\r\n"
+                   "/PATTRIBS CLASSIFICATION\r\n1 2\r\n3 4\r\n/PATTRIBS NOISE\r\n9\r\n"),
+      kAsfTypeNet);
+  ASSERT_EQ(reader.Next(), kAsfTypeNet);
+  OwnedNet net(TrNetCreate());
+  ASSERT_TRUE(boAsfNetRead(reader.file, reader.section, net));
   // The point with an index far beyond the others is passed.
   ASSERT_EQ(iTrNetGetPointCount(net), 3);
-  ViPoint3d point;
-  boTrNetGetP(net, 2, &point);
-  EXPECT_EQ(point.y, 210);
-  EXPECT_EQ(point.z, 3);
+  EXPECT_EQ(PointOf(net, 2).y, 210);
+  EXPECT_EQ(PointOf(net, 2).z, 3);
   ASSERT_EQ(iTrNetGetTriangleCount(net), 2);
-  TrTriangle triangle;
-  boTrNetGetTriangle(net, 0, &triangle);
-  EXPECT_EQ(triangle.iNeighbour[1], 1);
+  EXPECT_EQ(TriangleOf(net, 0).iNeighbour[1], 1);
   // Neighbours are not worked out for the older form.
-  boTrNetGetTriangle(net, 1, &triangle);
-  EXPECT_EQ(triangle.iPoint[0], 2);
-  EXPECT_EQ(triangle.iNeighbour[2], -1);
+  EXPECT_EQ(TriangleOf(net, 1).iPoint[0], 2);
+  EXPECT_EQ(TriangleOf(net, 1).iNeighbour[2], -1);
   EXPECT_EQ(iTrNetGetPointAttribInt(net, kViPointAttribClass, 2), 3);
   EXPECT_FALSE(boTrNetGetUsePointAttrib(net, kViPointAttribIntensity));
-  vTrNetDelete(&net);
-  vAsfFileClose(file);
 }
 
 TEST(AsfNetRecord, AbsurdCountsMakeRoomOnlyForWhatCanCome) {
@@ -180,34 +159,26 @@ TEST(AsfNetRecord, AbsurdCountsMakeRoomOnlyForWhatCanCome) {
       ":N 6\r\n_#POINTS 2000000000\r\n_#TRIANGLES 2000000000\r\n_OFFSET_NE 10 x\r\n"
       "/POINTS2\r\n1 2 3\r\n4 5\r\n/TRIANGLES2\r\n0 5 -7\r\n"
       ":N 7\r\n_#POINTS -5\r\n/POINTS2\r\n1 1 1\r\n");
-  AsfFile* file = AsfFileOpenMem(bytes.data(), bytes.size());
-  ASSERT_NE(file, nullptr);
-  AsfSection* section = AsfSectionFind(file, "S", kAsfTypeNet);
-  long id = 0;
-  ASSERT_EQ(iAsfObjectNext(file, section, &id), kAsfTypeNet);
-  TrNet* net = TrNetCreate();
-  ASSERT_TRUE(boAsfNetRead(file, section, net));
+  RecordReader reader(bytes, kAsfTypeNet);
+  ASSERT_EQ(reader.Next(), kAsfTypeNet);
+  OwnedNet net(TrNetCreate());
+  ASSERT_TRUE(boAsfNetRead(reader.file, reader.section, net));
   EXPECT_GE(iTrNetGetPointCount(net), 2);
   EXPECT_LT(iTrNetGetPointCount(net), static_cast<int>(bytes.size()));
-  ViPoint3d point;
-  boTrNetGetP(net, 1, &point);
+  const ViPoint3d point = PointOf(net, 1);
   EXPECT_EQ(point.x, 14);
   EXPECT_EQ(point.y, 5);
   EXPECT_EQ(point.z, 0);
   // Indexes out of range stand as they were read.
   ASSERT_GE(iTrNetGetTriangleCount(net), 1);
   EXPECT_LT(iTrNetGetTriangleCount(net), static_cast<int>(bytes.size()));
-  TrTriangle triangle;
-  boTrNetGetTriangle(net, 0, &triangle);
-  EXPECT_EQ(triangle.iPoint[1], 5);
-  EXPECT_EQ(triangle.iPoint[2], -7);
-  vTrNetDelete(&net);
+  EXPECT_EQ(TriangleOf(net, 0).iPoint[1], 5);
+  EXPECT_EQ(TriangleOf(net, 0).iPoint[2], -7);
 
-  ASSERT_EQ(iAsfObjectNext(file, section, &id), kAsfTypeNet);
+  long id = 0;
+  ASSERT_EQ(reader.Next(&id), kAsfTypeNet);
   EXPECT_EQ(id, 7);
-  net = TrNetCreate();
-  ASSERT_TRUE(boAsfNetRead(file, section, net));
-  EXPECT_EQ(iTrNetGetPointCount(net), 1);
-  vTrNetDelete(&net);
-  vAsfFileClose(file);
+  OwnedNet second(TrNetCreate());
+  ASSERT_TRUE(boAsfNetRead(reader.file, reader.section, second));
+  EXPECT_EQ(iTrNetGetPointCount(second), 1);
 }

@@ -10,7 +10,7 @@
 #include "tests/model_file/container/record_test_util.h"
 
 TEST(AsfObjectReader, AFileOnDiskGivesEveryKindThroughItsReader) {
-  AsfFile* file = AsfFileOpen(FixturePath("geometry_records.sfi").c_str());
+  OwnedFile file(AsfFileOpen(FixturePath("geometry_records.sfi").c_str()));
   ASSERT_NE(file, nullptr);
   std::vector<std::string> seen;
   for (int index = 0; AsfSection* section = AsfSectionAt(file, index); ++index) {
@@ -18,11 +18,11 @@ TEST(AsfObjectReader, AFileOnDiskGivesEveryKindThroughItsReader) {
     long id = 0;
     while (iAsfObjectNext(file, section, &id) == type) {
       std::string what = std::string(sAsfSectionGetName(section)) + " " + std::to_string(id);
-      LiLine* line = LiLineCreate(false);
-      PoPoint* point = PoPointCreate();
-      TeText* text = TeTextCreate();
-      TrNet* net = TrNetCreate();
-      PtCloud* cloud = PtCloudCreate();
+      OwnedLine line(LiLineCreate(false));
+      OwnedPoint point(PoPointCreate());
+      OwnedText text(TeTextCreate());
+      OwnedNet net(TrNetCreate());
+      OwnedCloud cloud(PtCloudCreate());
       if (boAsfLineRead(file, section, line) || boAsfPolygonRead(file, section, line)) {
         what += " elements " + std::to_string(iLiLineGetElmCount(line));
       } else if (boAsfPointRead(file, section, point)) {
@@ -35,16 +35,10 @@ TEST(AsfObjectReader, AFileOnDiskGivesEveryKindThroughItsReader) {
         what += " intensity " + std::to_string(iPtCloudGetPointAttribInt(cloud, 0, 3));
       }
       seen.push_back(what);
-      vLiLineDelete(&line);
-      vPoPointDelete(&point);
-      vTeTextDelete(&text);
-      vTrNetDelete(&net);
-      vPtCloudDelete(&cloud);
     }
   }
-  EXPECT_EQ(seen, (std::vector<std::string>{
-                      "LINES 1 elements 3", "LINES 2 elements 2", "AREAS 0 elements 6",
-                      "POINTS 5 rotation 0.785398", "TEXTS 6 label R\xF8sta bru",
-                      "NETS 8 triangles 2", "CLOUDS 9 intensity 103"}));
-  vAsfFileClose(file);
+  EXPECT_EQ(seen, (std::vector<std::string>{"LINES 1 elements 3", "LINES 2 elements 2",
+                                            "AREAS 0 elements 6", "POINTS 5 rotation 0.785398",
+                                            "TEXTS 6 label R\xF8sta bru", "NETS 8 triangles 2",
+                                            "CLOUDS 9 intensity 103"}));
 }

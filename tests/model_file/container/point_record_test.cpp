@@ -32,123 +32,99 @@ TeText* MakeText(long id, double rotation, int align, const char* label) {
 }  // namespace
 
 TEST(AsfPointRecord, PointsGoBothWaysWithRotationInDegrees) {
-  PoPoint* turned = MakePoint(11, 100.25, 0.5, "{P}");
+  OwnedPoint turned(MakePoint(11, 100.25, 0.5, "{P}"));
   // A rotation this close to 0 is not written and reads back as 0.
-  PoPoint* straight = MakePoint(12, -1, 0.000001, "");
+  OwnedPoint straight(MakePoint(12, -1, 0.000001, ""));
   FieldValues fields{{"12"}};
-  AsfSection* section = nullptr;
-  AsfFile* file = CreateRecordFile(kAsfTypePoint, {"CODE"}, &section);
-  EXPECT_TRUE(boAsfPointWrite(file, section, turned, boFieldValue, &fields));
-  EXPECT_TRUE(boAsfPointWrite(file, section, straight, nullptr, nullptr));
-  std::string bytes = FinishedBytes(file);
-  vAsfFileClose(file);
+  RecordWriter writer(kAsfTypePoint, {"CODE"});
+  EXPECT_TRUE(boAsfPointWrite(writer.file, writer.section, turned, boFieldValue, &fields));
+  EXPECT_TRUE(boAsfPointWrite(writer.file, writer.section, straight, nullptr, nullptr));
+  std::string bytes = writer.Finish();
   EXPECT_EQ(BodyOf(bytes),
             ":P 11\r\n_FIELDVALUES 12;\r\nGUID {P}\r\n_rot 28.65\r\n/XYZ\r\n100.25 200.5 3\r\n"
             ":P 12\r\n_FIELDVALUES ;\r\nGUID \r\n/XYZ\r\n-1 200.5 3\r\n");
   // The section's extent is that of the positions.
   EXPECT_NE(bytes.find("[P_S]\r\n_EXTENT -1 200 101 201 !"), std::string::npos);
 
-  file = AsfFileOpenMem(bytes.data(), bytes.size());
-  ASSERT_NE(file, nullptr);
-  section = AsfSectionFind(file, "S", kAsfTypePoint);
-  PoPoint* copy = PoPointCreate();
+  RecordReader reader(bytes, kAsfTypePoint);
+  OwnedPoint copy(PoPointCreate());
   long id = 0;
-  ASSERT_EQ(iAsfObjectNext(file, section, &id), kAsfTypePoint);
+  ASSERT_EQ(reader.Next(&id), kAsfTypePoint);
   EXPECT_EQ(id, 11);
-  ASSERT_TRUE(boAsfPointRead(file, section, copy));
-  EXPECT_FALSE(boAsfPointRead(file, section, copy));
+  ASSERT_TRUE(boAsfPointRead(reader.file, reader.section, copy));
+  EXPECT_FALSE(boAsfPointRead(reader.file, reader.section, copy));
   ViPoint3d position;
   vPoPointGetP(copy, &position);
   EXPECT_EQ(position.x, 100.25);
   EXPECT_EQ(position.z, 3);
   EXPECT_DOUBLE_EQ(dPoPointGetRotation(copy), 28.65 * 0.017453292519943295);
   EXPECT_STREQ(sPoPointGetGuid(copy), "{P}");
-  ASSERT_EQ(iAsfObjectNext(file, section, &id), kAsfTypePoint);
-  ASSERT_TRUE(boAsfPointRead(file, section, copy));
+  ASSERT_EQ(reader.Next(&id), kAsfTypePoint);
+  ASSERT_TRUE(boAsfPointRead(reader.file, reader.section, copy));
   EXPECT_EQ(dPoPointGetRotation(copy), 0);
   EXPECT_STREQ(sPoPointGetGuid(copy), "");
-  EXPECT_EQ(iAsfObjectNext(file, section, &id), -1);
-  vAsfFileClose(file);
-  for (PoPoint* point : {copy, turned, straight}) vPoPointDelete(&point);
+  EXPECT_EQ(reader.Next(&id), -1);
 }
 
 TEST(AsfPointRecord, TextsKeepAlignAndLabelAndEmptyLabelsAreLeftOut) {
-  TeText* sign = MakeText(21, -1.5707963267948966, 5, "Road 7");
+  OwnedText sign(MakeText(21, -1.5707963267948966, 5, "Road 7"));
   vTeTextSetGuid(sign, "{T}");
-  TeText* blank = MakeText(22, 0, 2, "");
-  TeText* broken = MakeText(23, 0, 0, "upper\nlower");
-  AsfSection* section = nullptr;
-  AsfFile* file = CreateRecordFile(kAsfTypeText, {}, &section);
-  for (TeText* text : {sign, blank, broken}) {
-    EXPECT_TRUE(boAsfTextWrite(file, section, text, nullptr, nullptr));
+  OwnedText blank(MakeText(22, 0, 2, ""));
+  OwnedText broken(MakeText(23, 0, 0, "upper\nlower"));
+  RecordWriter writer(kAsfTypeText, {});
+  for (TeText* text : {sign.get(), blank.get(), broken.get()}) {
+    EXPECT_TRUE(boAsfTextWrite(writer.file, writer.section, text, nullptr, nullptr));
   }
-  std::string bytes = FinishedBytes(file);
-  vAsfFileClose(file);
+  std::string bytes = writer.Finish();
   // The label is written as it stands: a line break in it breaks the record.
   EXPECT_EQ(BodyOf(bytes),
             ":T 21\r\nGUID {T}\r\n_rot -90.00\r\n_align 5\r\n_label Road 7\r\n/XYZ\r\n1 2 3\r\n"
             ":T 23\r\nGUID \r\n_label upper\nlower\r\n/XYZ\r\n1 2 3\r\n");
 
-  file = AsfFileOpenMem(bytes.data(), bytes.size());
-  ASSERT_NE(file, nullptr);
-  section = AsfSectionFind(file, "S", kAsfTypeText);
-  TeText* copy = TeTextCreate();
-  ASSERT_EQ(iAsfObjectNext(file, section, nullptr), kAsfTypeText);
-  EXPECT_FALSE(boAsfPointRead(file, section, nullptr));
-  ASSERT_TRUE(boAsfTextRead(file, section, copy));
+  RecordReader reader(bytes, kAsfTypeText);
+  OwnedText copy(TeTextCreate());
+  ASSERT_EQ(reader.Next(), kAsfTypeText);
+  EXPECT_FALSE(boAsfPointRead(reader.file, reader.section, nullptr));
+  ASSERT_TRUE(boAsfTextRead(reader.file, reader.section, copy));
   EXPECT_STREQ(sTeTextGetLabel(copy), "Road 7");
   EXPECT_EQ(iTeTextGetAlign(copy), 5);
   EXPECT_DOUBLE_EQ(dTeTextGetRotation(copy), -90.0 * 0.017453292519943295);
-  ASSERT_EQ(iAsfObjectNext(file, section, nullptr), kAsfTypeText);
-  ASSERT_TRUE(boAsfTextRead(file, section, copy));
+  ASSERT_EQ(reader.Next(), kAsfTypeText);
+  ASSERT_TRUE(boAsfTextRead(reader.file, reader.section, copy));
   EXPECT_STREQ(sTeTextGetLabel(copy), "upper");
   EXPECT_EQ(iTeTextGetAlign(copy), 0);
-  vAsfFileClose(file);
 
   // A text whose label is empty reads as nothing.
-  bytes = FileWithBody('T', "", ":T 8\r\n_label \r\n/XYZ\r\n1 1\r\n");
-  file = AsfFileOpenMem(bytes.data(), bytes.size());
-  ASSERT_NE(file, nullptr);
-  section = AsfSectionFind(file, "S", kAsfTypeText);
-  ASSERT_EQ(iAsfObjectNext(file, section, nullptr), kAsfTypeText);
-  EXPECT_FALSE(boAsfTextRead(file, section, copy));
-  vAsfFileClose(file);
-  for (TeText* text : {copy, sign, blank, broken}) vTeTextDelete(&text);
+  RecordReader empty(FileWithBody('T', "", ":T 8\r\n_label \r\n/XYZ\r\n1 1\r\n"), kAsfTypeText);
+  ASSERT_EQ(empty.Next(), kAsfTypeText);
+  EXPECT_FALSE(boAsfTextRead(empty.file, empty.section, copy));
 }
 
 TEST(AsfPointRecord, PositionsAreFoundBehindEmptyLinesAndFilteredWithBounds) {
-  std::string bytes = FileWithBody(
-      'P', "",
-      // One number is no position: the line is passed and the next "/XYZ"
-      // gives it.
-      ":P 1\r\n/XYZ\r\n\r\n\r\n7\r\n/XYZ\r\n10 10\r\n"
-      // Without a position the record is passed over.
-      ":P 2\r\nGUID x\r\n"
-      ":P 3\r\n/XYZ\r\n0 0 1\r\n"
-      ":P 4\r\n/XYZ\r\n10.000001 5 1\r\n"
-      ":T 5\r\n/XYZ\r\n1 1\r\n"
-      ":P 6\r\n/XYZ\r\n");
-  AsfFile* file = AsfFileOpenMem(bytes.data(), bytes.size());
-  ASSERT_NE(file, nullptr);
-  AsfSection* section = AsfSectionFind(file, "S", kAsfTypePoint);
+  RecordReader reader(FileWithBody('P', "",
+                                   // One number is no position: the line is passed and the
+                                   // next "/XYZ" gives it.
+                                   ":P 1\r\n/XYZ\r\n\r\n\r\n7\r\n/XYZ\r\n10 10\r\n"
+                                   // Without a position the record is passed over.
+                                   ":P 2\r\nGUID x\r\n"
+                                   ":P 3\r\n/XYZ\r\n0 0 1\r\n"
+                                   ":P 4\r\n/XYZ\r\n10.000001 5 1\r\n"
+                                   ":T 5\r\n/XYZ\r\n1 1\r\n"
+                                   ":P 6\r\n/XYZ\r\n"),
+                      kAsfTypePoint);
   AsfExtent filter{0, 0, 10, 10};
-  vAsfFilterSet(file, &filter);
-  std::vector<long> ids;
-  long id = 0;
-  while (iAsfObjectNext(file, section, &id) >= 0) ids.push_back(id);
-  EXPECT_EQ(ids, (std::vector<long>{1, 3}));
+  vAsfFilterSet(reader.file, &filter);
+  EXPECT_EQ(RecordIds(reader), (std::vector<long>{1, 3}));
 
-  vAsfFilterSet(file, nullptr);
-  ASSERT_TRUE(boAsfObjectFind(file, section, 1));
-  PoPoint* point = PoPointCreate();
-  ASSERT_TRUE(boAsfPointRead(file, section, point));
+  vAsfFilterSet(reader.file, nullptr);
+  ASSERT_TRUE(boAsfObjectFind(reader.file, reader.section, 1));
+  OwnedPoint point(PoPointCreate());
+  ASSERT_TRUE(boAsfPointRead(reader.file, reader.section, point));
   ViPoint3d position;
   vPoPointGetP(point, &position);
   EXPECT_EQ(position.x, 10);
   EXPECT_EQ(position.z, 0);
-  EXPECT_TRUE(boAsfObjectFind(file, section, 4));
-  EXPECT_FALSE(boAsfObjectFind(file, section, 5));
-  EXPECT_FALSE(boAsfObjectFind(file, section, 6));
-  vPoPointDelete(&point);
-  vAsfFileClose(file);
+  EXPECT_TRUE(boAsfObjectFind(reader.file, reader.section, 4));
+  EXPECT_FALSE(boAsfObjectFind(reader.file, reader.section, 5));
+  EXPECT_FALSE(boAsfObjectFind(reader.file, reader.section, 6));
 }

@@ -1,6 +1,6 @@
 // Helpers of the geometry record tests: a memory container with one section
-// of records, the text of that section's body, hand-written files to read,
-// and field callbacks over a list of values.
+// of records to write or read, the text of that section's body, hand-written
+// files to read, and field callbacks over a list of values.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -10,27 +10,44 @@
 
 #include "model_file/container/asf_file.h"
 #include "model_file/container/asf_objects.h"
+#include "tests/geometry/geometry_test_util.h"
 #include "tests/model_file/container/asf_test_util.h"
 
 // A memory write handle with the head written and one section "S" of
-// `type` with the given field names, in `*section`.
-inline AsfFile* CreateRecordFile(int type, const std::vector<std::string>& fields,
-                                 AsfSection** section) {
-  AsfFile* file = AsfFileCreate(nullptr);
-  vAsfFileSetType(file, "sfi");
-  *section = AsfSectionAdd(file, "S", type);
-  for (size_t i = 0; i < fields.size(); ++i) {
-    vAsfFieldNameSet(file, *section, static_cast<int>(i), fields[i].c_str());
+// `type` with the given field names.
+struct RecordWriter {
+  RecordWriter(int type, const std::vector<std::string>& fields) : file(AsfFileCreate(nullptr)) {
+    vAsfFileSetType(file, "sfi");
+    section = AsfSectionAdd(file, "S", type);
+    for (size_t i = 0; i < fields.size(); ++i) {
+      vAsfFieldNameSet(file, section, static_cast<int>(i), fields[i].c_str());
+    }
+    EXPECT_TRUE(boAsfFileWriteHead(file));
   }
-  EXPECT_TRUE(boAsfFileWriteHead(file));
-  return file;
-}
+  // Finishes the handle and gives its bytes.
+  std::string Finish() {
+    EXPECT_TRUE(boAsfFileFinish(file));
+    return MemBytes(file);
+  }
 
-// Finishes the handle and gives its bytes.
-inline std::string FinishedBytes(AsfFile* file) {
-  EXPECT_TRUE(boAsfFileFinish(file));
-  return MemBytes(file);
-}
+  OwnedFile file;
+  AsfSection* section = nullptr;
+};
+
+// A memory read handle on a copy of `bytes`, which it reads in place, and
+// its section "S" of `type`.
+struct RecordReader {
+  RecordReader(const std::string& bytes, int type)
+      : bytes(bytes),
+        file(AsfFileOpenMem(this->bytes.data(), this->bytes.size())),
+        section(file ? AsfSectionFind(file, "S", type) : nullptr) {}
+  // The type of the next record, with its id in *id; -1 at the end.
+  int Next(long* id = nullptr) { return iAsfObjectNext(file, section, id); }
+
+  const std::string bytes;
+  OwnedFile file;
+  AsfSection* section;
+};
 
 // The records between the body's head line "[+X_S]" and "[END]".
 inline std::string BodyOf(const std::string& bytes) {
@@ -73,4 +90,12 @@ inline std::vector<std::string> ReadValues(AsfFile* file, AsfSection* section) {
   const char* value = nullptr;
   for (int i = 0; boAsfFieldValueAt(file, section, i, &value); ++i) values.emplace_back(value);
   return values;
+}
+
+// The ids of the records of the section that are read in turn.
+inline std::vector<long> RecordIds(RecordReader& reader) {
+  std::vector<long> ids;
+  long id = 0;
+  while (reader.Next(&id) >= 0) ids.push_back(id);
+  return ids;
 }

@@ -1,0 +1,69 @@
+// Helpers of the geometry tests: owners of the geometry objects, and checks
+// of points, directions and extents against expected values.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <iomanip>
+#include <numbers>
+
+#include "geometry/cloud.h"
+#include "geometry/line.h"
+#include "geometry/line_measure.h"
+#include "geometry/lines.h"
+#include "geometry/net.h"
+#include "geometry/point_text.h"
+#include "geometry/polygon.h"
+#include "tests/base/scratch_folder.h"
+
+inline constexpr double kPi = std::numbers::pi;
+
+using OwnedLine = Owned<LiLine, vLiLineDelete>;
+using OwnedLines = Owned<LiLines, vLiLinesDelete>;
+using OwnedPolygon = Owned<YgPolygon, vYgPolygonDelete>;
+using OwnedPolygons = Owned<YgPolygons, vYgPolygonsDelete>;
+using OwnedNet = Owned<TrNet, vTrNetDelete>;
+using OwnedCloud = Owned<PtCloud, vPtCloudDelete>;
+using OwnedPoint = Owned<PoPoint, vPoPointDelete>;
+using OwnedText = Owned<TeText, vTeTextDelete>;
+
+// Whether `point` lies within `tolerance` of (x, y).
+template <typename Point>
+testing::AssertionResult Near(const Point& point, double x, double y, double tolerance = 1e-9) {
+  if (std::fabs(point.x - x) <= tolerance && std::fabs(point.y - y) <= tolerance) {
+    return testing::AssertionSuccess();
+  }
+  return testing::AssertionFailure()
+         << std::setprecision(17) << "(" << point.x << ", " << point.y << ") is not within "
+         << tolerance << " of (" << x << ", " << y << ")";
+}
+
+// Whether the line has a point at `length` within `tolerance` of (x, y),
+// running in `direction`.
+inline testing::AssertionResult AtLength(const LiLine* line, double length, double x, double y,
+                                         double direction, double tolerance = 1e-9) {
+  ViPoint3d point;
+  double found = 0.0;
+  if (!boLiLineGetPointAtLength(line, length, &point, &found)) {
+    return testing::AssertionFailure() << "no point at length " << length;
+  }
+  testing::AssertionResult near = Near(point, x, y, tolerance);
+  if (!near) return near << " at length " << length;
+  if (std::fabs(found - direction) > tolerance) {
+    return testing::AssertionFailure() << std::setprecision(17) << "direction " << found
+                                       << " instead of " << direction << " at length " << length;
+  }
+  return testing::AssertionSuccess();
+}
+
+// Whether `extent` is (minX, minY, maxX, maxY) within `tolerance`.
+inline testing::AssertionResult ExtentNear(const ViExtent& extent, double minX, double minY,
+                                           double maxX, double maxY, double tolerance = 1e-9) {
+  if (std::fabs(extent.dMinX - minX) <= tolerance && std::fabs(extent.dMinY - minY) <= tolerance &&
+      std::fabs(extent.dMaxX - maxX) <= tolerance && std::fabs(extent.dMaxY - maxY) <= tolerance) {
+    return testing::AssertionSuccess();
+  }
+  return testing::AssertionFailure() << std::setprecision(17) << "extent " << extent.dMinX << " "
+                                     << extent.dMinY << " " << extent.dMaxX << " " << extent.dMaxY;
+}
