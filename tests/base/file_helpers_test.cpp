@@ -13,7 +13,7 @@
 #include "base/file_times.h"
 #include "base/platform.h"
 #include "base/temp_files.h"
-#include "scratch_folder.h"
+#include "tests/support/scratch_folder.h"
 
 namespace {
 

@@ -7,7 +7,7 @@
 #include "base/dlink.h"
 #include "base/pool.h"
 #include "base/slink.h"
-#include "tests/base/scratch_folder.h"
+#include "tests/support/scratch_folder.h"
 
 namespace {
 

@@ -12,7 +12,7 @@
 #include <vector>
 
 #include "base/platform.h"
-#include "scratch_folder.h"
+#include "tests/support/scratch_folder.h"
 
 namespace {
 

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "base/platform.h"
-#include "scratch_folder.h"
+#include "tests/support/scratch_folder.h"
 
 namespace {
 

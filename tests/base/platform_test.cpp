@@ -11,7 +11,7 @@
 
 #include "base/process_runner.h"
 #include "base/system_error.h"
-#include "scratch_folder.h"
+#include "tests/support/scratch_folder.h"
 
 namespace {
 

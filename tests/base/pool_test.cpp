@@ -8,7 +8,7 @@
 #include <thread>
 #include <vector>
 
-#include "tests/base/scratch_folder.h"
+#include "tests/support/scratch_folder.h"
 
 namespace {
 

@@ -7,7 +7,7 @@
 
 #include "design_model/design_model.h"
 #include "design_model/document.h"
-#include "tests/base/scratch_folder.h"
+#include "tests/support/scratch_folder.h"
 
 namespace NpDesignModel {
 namespace {

@@ -11,7 +11,7 @@
 
 #include "design_model/design_model_builder.h"
 #include "design_model/document.h"
-#include "tests/base/scratch_folder.h"
+#include "tests/support/scratch_folder.h"
 
 namespace NpDesignModel {
 namespace {

@@ -8,7 +8,7 @@
 
 #include "base/session.h"
 #include "parameters/inif_file.h"
-#include "tests/base/scratch_folder.h"
+#include "tests/support/scratch_folder.h"
 
 namespace {
 

@@ -9,7 +9,7 @@
 #include "road_model/model_lines.h"
 #include "road_model/section_heights.h"
 #include "road_model/vertical_line.h"
-#include "tests/base/scratch_folder.h"
+#include "tests/support/scratch_folder.h"
 
 namespace {
 

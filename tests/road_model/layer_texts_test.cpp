@@ -12,7 +12,7 @@
 #include "road_model/layer_texts.h"
 #include "road_model/model.h"
 #include "road_model/pcode.h"
-#include "tests/base/scratch_folder.h"
+#include "tests/support/scratch_folder.h"
 
 namespace {
 

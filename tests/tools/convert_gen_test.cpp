@@ -7,7 +7,7 @@
 
 #include "base/platform.h"
 #include "design_model/document.h"
-#include "tests/base/scratch_folder.h"
+#include "tests/support/scratch_folder.h"
 #include "tests/tools/program_run.h"
 
 namespace {

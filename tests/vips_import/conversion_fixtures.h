@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "base/platform.h"
-#include "tests/base/scratch_folder.h"
+#include "tests/support/scratch_folder.h"
 
 // The factory settings file that ships with the product.
 inline std::string sShippedSettings() {

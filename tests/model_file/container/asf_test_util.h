@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "model_file/container/asf_file.h"
-#include "tests/base/scratch_folder.h"
+#include "tests/support/scratch_folder.h"
 
 using OwnedFile = Owned<AsfFile, vAsfFileClose>;
 

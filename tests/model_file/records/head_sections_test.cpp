@@ -8,7 +8,7 @@
 #include "road_model/road_dim_params.h"
 #include "road_model/sect_params.h"
 #include "road_model/sect_triangulation_params.h"
-#include "tests/base/scratch_folder.h"
+#include "tests/support/scratch_folder.h"
 #include "tests/model_file/records/model_file_test_util.h"
 
 namespace {
