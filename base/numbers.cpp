@@ -34,18 +34,6 @@ constexpr double kPrintScale[10] = {1.0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8,
 
 bool boIsDigit(char byte) { return byte >= '0' && byte <= '9'; }
 
-// Writes the decimal digits of `value` at `out` and returns the end.
-char* pWriteDigits(char* out, uint64_t value) {
-  char reversed[20];
-  int count = 0;
-  do {
-    reversed[count++] = static_cast<char>('0' + value % 10);
-    value /= 10;
-  } while (value != 0);
-  while (count > 0) *out++ = reversed[--count];
-  return out;
-}
-
 // The C library's strtol on a platform where long has 32 bits.
 long lReadLong32(const char* text, const char** outEnd) {
   char* end = nullptr;
@@ -97,6 +85,17 @@ char* sCopyNumberText(const char* text, size_t length, char* buffer, size_t size
 }
 
 }  // namespace
+
+char* pWriteDigits(char* out, uint64_t value) {
+  char reversed[20];
+  int count = 0;
+  do {
+    reversed[count++] = static_cast<char>('0' + value % 10);
+    value /= 10;
+  } while (value != 0);
+  while (count > 0) *out++ = reversed[--count];
+  return out;
+}
 
 long lParseInteger(const char* text, const char** outEnd) {
   if (!text) {

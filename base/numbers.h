@@ -8,6 +8,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 
 // The model's mark for "no value".
 inline constexpr double kNullNumber = -99999.0;
@@ -52,6 +53,10 @@ bool boIsNumberText(const char* text);
 // -0.0001 with 3 decimals prints "-0". `outEnd`, when given, gets the end of
 // the text. Returns `buffer`; 24 bytes always suffice.
 char* sPrintNumber(char* buffer, size_t size, double value, int decimals, char** outEnd);
+
+// Writes the decimal digits of `value` at `out`, without a terminator, and
+// returns the end. The caller gives room for 20 digits.
+char* pWriteDigits(char* out, uint64_t value);
 
 // Prints an integer with a sign when it is negative. Returns `buffer`;
 // 24 bytes always suffice.

@@ -14,18 +14,6 @@ constexpr double kStraightRadius = 0.00001;
 // Above this a float has no fraction worth the fast path.
 constexpr double kFastPathLimit = 1e14;
 
-// Writes the decimal digits of `value` and returns the end.
-char* pPutDigits(char* out, uint64_t value) {
-  char reversed[20];
-  int count = 0;
-  do {
-    reversed[count++] = static_cast<char>('0' + value % 10);
-    value /= 10;
-  } while (value != 0);
-  while (count > 0) *out++ = reversed[--count];
-  return out;
-}
-
 char* pPutInteger(char* out, long value) {
   char* end = nullptr;
   sPrintInteger(out, 24, value, &end);
@@ -81,7 +69,7 @@ char* pRmPrintCoordinate(char* out, float value) {
   double scaled = std::nearbyint(widened * 10000.0);
   if (std::signbit(widened)) *out++ = '-';
   auto digits = static_cast<uint64_t>(std::fabs(scaled));
-  out = pPutDigits(out, digits / 10000);
+  out = pWriteDigits(out, digits / 10000);
   auto fraction = static_cast<unsigned>(digits % 10000);
   if (fraction == 0) return out;
   *out++ = '.';
