@@ -36,6 +36,22 @@ double dForwardRun(const RmPoint* point, const RmPoint* neighbour) {
                                   : double(point->X) - neighbour->X;
 }
 
+// The slope between a point (the layer's last for null) and its next or
+// previous neighbour: 0 when either is missing, none when either has no
+// height. The rise is taken towards the neighbour or from it; the run is
+// the forward run, or its size alone.
+double dNeighbourSlope(const RmLayer* layer, const RmPoint* point, bool towardsNext,
+                       bool riseToNeighbour, bool absoluteRun) {
+  point = PointOrLast(layer, point);
+  if (!point) return 0.0;
+  const RmPoint* neighbour = towardsNext ? point->Next : point->Prev;
+  if (!neighbour) return 0.0;
+  if (!boRmPointHasHeight(point) || !boRmPointHasHeight(neighbour)) return kNullNumber;
+  double rise = double(neighbour->Z) - point->Z;
+  double run = dForwardRun(point, neighbour);
+  return dSlope(riseToNeighbour ? rise : -rise, absoluteRun ? std::fabs(run) : run);
+}
+
 }  // namespace
 
 // ---- Heights and offsets ----
@@ -124,33 +140,15 @@ double dRmLayerOffsetOfCode(const RmLayer* layer, double z, int pcode, int side)
 // ---- Slopes ----
 
 double dRmPointSlopeByCode(const RmLayer* layer, const RmPoint* point, bool flag) {
-  point = PointOrLast(layer, point);
-  if (!point) return 0.0;
-  const RmPoint* neighbour = flag ? point->Prev : point->Next;
-  if (!neighbour) return 0.0;
-  if (!boRmPointHasHeight(point) || !boRmPointHasHeight(neighbour)) return kNullNumber;
-  return dSlope(double(point->Z) - neighbour->Z,
-                dForwardRun(point, neighbour));
+  return dNeighbourSlope(layer, point, !flag, false, false);
 }
 
 double dRmPointSlopeByOffset(const RmLayer* layer, const RmPoint* point, bool flag) {
-  point = PointOrLast(layer, point);
-  if (!point) return 0.0;
-  const RmPoint* neighbour = flag ? point->Next : point->Prev;
-  if (!neighbour) return 0.0;
-  if (!boRmPointHasHeight(point) || !boRmPointHasHeight(neighbour)) return kNullNumber;
-  return dSlope(double(neighbour->Z) - point->Z,
-                dForwardRun(point, neighbour));
+  return dNeighbourSlope(layer, point, flag, true, false);
 }
 
 double dRmPointSlopeAbs(const RmLayer* layer, const RmPoint* point, bool flag) {
-  point = PointOrLast(layer, point);
-  if (!point) return 0.0;
-  const RmPoint* neighbour = flag ? point->Next : point->Prev;
-  if (!neighbour) return 0.0;
-  if (!boRmPointHasHeight(point) || !boRmPointHasHeight(neighbour)) return kNullNumber;
-  return dSlope(double(neighbour->Z) - point->Z,
-                std::fabs(double(neighbour->X) - point->X));
+  return dNeighbourSlope(layer, point, flag, true, true);
 }
 
 double dRmPointSlopeOrVertical(const RmLayer* layer, const RmPoint* point, bool flag) {
