@@ -10,11 +10,6 @@
 
 namespace {
 
-struct SectionDeleter {
-  void operator()(RmSection* section) const { vRmSectionDeleteFree(section); }
-};
-using SectionPtr = std::unique_ptr<RmSection, SectionDeleter>;
-
 std::vector<int> LayerFileNumbers(const RmSection* section) {
   std::vector<int> numbers;
   for (const RmLayer* layer = RmSectionLayersGetFirst(section); layer; layer = layer->Next) {
@@ -111,8 +106,6 @@ TEST(SectionLayers, BuildInfoIsMadeByTheFirstSetterWithItsDefaults) {
   ASSERT_NE(layer->BuildInfo, nullptr);
   EXPECT_EQ(iRmLayerGetBuildMethod(layer.get()), 1);
   EXPECT_EQ(iRmLayerGetInterMethod(layer.get()), 3);
-  EXPECT_STREQ(sRmLayerGetBlockName(layer.get()), "");
-  EXPECT_FALSE(boRmLayerGetOppositeDiagonal(layer.get()));
   // A copy from a layer without build info takes it away.
   LayerPtr plain = MakeLayer(RmLayerIdMake(1, 0), {});
   vRmLayerCopy(layer.get(), plain.get());

@@ -1,5 +1,6 @@
-// Helpers of the layer and section tests: free layers made from rows of
-// points, and the offsets, heights and codes of a layer as vectors.
+// Helpers of the layer and section tests: models and free sections that
+// delete themselves, free layers made from rows of points, and the offsets,
+// heights and codes of a layer as vectors.
 #pragma once
 
 #include <initializer_list>
@@ -7,6 +8,18 @@
 #include <vector>
 
 #include "road_model/layer.h"
+#include "road_model/model.h"
+#include "road_model/section.h"
+
+struct ModelDeleter {
+  void operator()(RmModel* model) const { vRmModelDelete(model); }
+};
+using ModelPtr = std::unique_ptr<RmModel, ModelDeleter>;
+
+struct SectionDeleter {
+  void operator()(RmSection* section) const { vRmSectionDeleteFree(section); }
+};
+using SectionPtr = std::unique_ptr<RmSection, SectionDeleter>;
 
 struct LayerDeleter {
   void operator()(RmLayer* layer) const { vRmLayerDeleteFree(layer); }

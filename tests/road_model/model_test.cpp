@@ -20,42 +20,6 @@ struct ModelHolder {
 
 }  // namespace
 
-TEST(Model, ANewModelHasItsDefaultsAndOnlyTwoSubObjects) {
-  ModelHolder model;
-  ASSERT_NE(model.model, nullptr);
-  EXPECT_EQ(model->ContainerVersion, -1);
-  EXPECT_EQ(model->DataVersion, 0);
-  EXPECT_EQ(iRmModelGetCalcMode(model), 1);
-  EXPECT_EQ(iRmModelGetCalcTheo(model), 1);
-  EXPECT_EQ(iRmModelGetCalcPhys(model), 2);
-  EXPECT_EQ(dRmModelGetRedundantPointTol(model), 0.001);
-  EXPECT_EQ(iRmModelGetBuildModePending(model), kRmPendingNone);
-  EXPECT_EQ(iRmModelGetCalcModePending(model), kRmPendingNone);
-  EXPECT_EQ(iRmModelGetTunnelModePending(model), kRmPendingNone);
-  EXPECT_EQ(iRmModelGetCalcStandardPending(model), kRmPendingNone);
-  EXPECT_EQ(dRmModelGetRedundantPointTolPending(model), kRmPendingNoneReal);
-  EXPECT_STREQ(sRmModelGetMarket(model), "");
-
-  const RmSectParams* params = RmModelGetSectParams(model);
-  ASSERT_NE(params, nullptr);
-  EXPECT_EQ(params->Interval, 10.0);
-  EXPECT_DOUBLE_EQ(params->TightenAngle * 180.0 / 3.14159265358979323846, 5.0);
-  EXPECT_EQ(params->MaxCircleDevXY, 0.1);
-  EXPECT_EQ(params->DistLeft, 20.0);
-  EXPECT_EQ(params->All, 1);
-  EXPECT_EQ(params->Flags, 3);
-  EXPECT_STREQ(sRmSectParamsGetAppLayer(params), "");
-
-  EXPECT_EQ(model->AdmData, nullptr);
-  EXPECT_EQ(model->Hyperlinks, nullptr);
-  EXPECT_EQ(model->SectParamsPending, nullptr);
-  EXPECT_EQ(model->SectTriangulationParams, nullptr);
-  EXPECT_EQ(model->RoadDimParams, nullptr);
-  EXPECT_EQ(model->Lines, nullptr);
-  EXPECT_EQ(model->CrossSections, nullptr);
-  EXPECT_EQ(model->SurfGen, nullptr);
-}
-
 TEST(Model, AResetKeepsTheFileNameAndTheGuidAndNothingElse) {
   ModelHolder model;
   vRmModelSetFileName(model, "/data/veg.sfi");
@@ -81,6 +45,7 @@ TEST(Model, AResetKeepsTheFileNameAndTheGuidAndNothingElse) {
   EXPECT_EQ(model->RoadDimParamsPending, nullptr);
   ASSERT_NE(model->SectParams, nullptr);
   EXPECT_EQ(model->SectParams->Interval, 10.0);
+  EXPECT_DOUBLE_EQ(model->SectParams->TightenAngle * 180.0 / 3.14159265358979323846, 5.0);
   EXPECT_EQ(model->Dirty, 0);
   EXPECT_EQ(model->ContainerVersion, -1);
 }

@@ -22,16 +22,6 @@ namespace {
 
 constexpr double kPi = std::numbers::pi;
 
-struct ModelDeleter {
-  void operator()(RmModel* model) const { vRmModelDelete(model); }
-};
-using ModelPtr = std::unique_ptr<RmModel, ModelDeleter>;
-
-struct SectionDeleter {
-  void operator()(RmSection* section) const { vRmSectionDeleteFree(section); }
-};
-using SectionPtr = std::unique_ptr<RmSection, SectionDeleter>;
-
 // A model whose centre line runs east from (1000, 2000) for 100 m, from
 // chainage 0, rising 1 % from height 10.
 ModelPtr ModelWithCentreLine() {

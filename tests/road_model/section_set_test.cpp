@@ -22,11 +22,6 @@ struct SetDeleter {
 };
 using SetPtr = std::unique_ptr<RmSectionSet, SetDeleter>;
 
-struct ModelDeleter {
-  void operator()(RmModel* model) const { vRmModelDelete(model); }
-};
-using ModelPtr = std::unique_ptr<RmModel, ModelDeleter>;
-
 // Sections at these chainages, each with a physical layer of two points.
 SetPtr MakeSet(std::initializer_list<double> chains) {
   SetPtr set(RmSectionSetCreate());

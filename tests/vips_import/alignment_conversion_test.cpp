@@ -106,12 +106,6 @@ std::unique_ptr<DesignModelRecord> RoadDesign(bool withDifferences = true) {
 
 // ---- Expected texts ----
 
-std::string sCrLf(std::initializer_list<std::string> lines) {
-  std::string text;
-  for (const std::string& line : lines) text += line + "\r\n";
-  return text;
-}
-
 // The line section's head in the directory: the extent of all lines
 // (rounded outwards) and the fields.
 std::string sLineSectionHead(const std::string& extent, const std::string& fields) {
@@ -218,26 +212,6 @@ Converted Convert(const ScratchFolder& folder, DesignModelRecord& design, uint32
   return converted;
 }
 
-// The body of the section with this head line ("[+L_]", "[+O_VERLINE]"):
-// the lines behind it up to the next line that starts with "[".
-std::string sBody(const std::string& bytes, const std::string& head) {
-  size_t start = bytes.find(head + "\r\n");
-  if (start == std::string::npos) return "<none>";
-  start += head.size() + 2;
-  size_t end = start;
-  while (end < bytes.size() && bytes[end] != '[') {
-    size_t next = bytes.find("\r\n", end);
-    end = next == std::string::npos ? bytes.size() : next + 2;
-  }
-  return bytes.substr(start, end - start);
-}
-
-ModelPtr Loaded(const ScratchFolder& folder) {
-  ModelPtr model(RmModelCreate());
-  EXPECT_TRUE(boRmModelLoad(model.get(), (folder / "veg.sfi").c_str()));
-  return model;
-}
-
 // ---- The design's geometry ----
 
 // The height at `chain` on the circle of radius `r` that touches the piece
@@ -289,7 +263,7 @@ void vExpectMainGeometry(const RmLine* line) {
 // The model file loaded and saved again: its sections come out as they
 // went in.
 std::string sLoadedAndSavedAgain(const ScratchFolder& folder, ModelPtr* loaded) {
-  *loaded = Loaded(folder);
+  *loaded = Loaded(folder / "veg.sfi");
   EXPECT_TRUE(boRmModelSave(loaded->get(), (folder / "again.sfi").c_str()));
   return sReadWholeFile(folder / "again.sfi");
 }
@@ -333,7 +307,7 @@ TEST(AlignmentConversion, EachFlagReadsItsOwnPartOfTheAlignments) {
   EXPECT_EQ(sBody(converted.file, "[+L_]"), kMainLine);
   EXPECT_EQ(sBody(converted.file, "[+O_VERLINE]"), kMainProfile);
   EXPECT_EQ(sBody(converted.file, "[+O_DIFFALTITUDES]"), kDifferences);
-  vExpectMainGeometry(RmModelGetCenterLine(Loaded(folder).get()));
+  vExpectMainGeometry(RmModelGetCenterLine(Loaded(folder / "veg.sfi").get()));
 
   // The others alone: no main line, so nothing marked as one.
   converted = Convert(folder, *design, KVRVIPS_IMPORT_EXTRA_ALIGNMENTS);
@@ -344,7 +318,7 @@ TEST(AlignmentConversion, EachFlagReadsItsOwnPartOfTheAlignments) {
   EXPECT_EQ(sBody(converted.file, "[+L_]"), kEdgeLine + kFootwayLine);
   EXPECT_EQ(sBody(converted.file, "[+O_VERLINE]"), kFootwayProfile);
   EXPECT_EQ(sBody(converted.file, "[+O_DIFFALTITUDES]"), "<none>");
-  EXPECT_EQ(RmModelGetCenterLine(Loaded(folder).get()), nullptr);
+  EXPECT_EQ(RmModelGetCenterLine(Loaded(folder / "veg.sfi").get()), nullptr);
 
   // The main profile alone: its line has no plan and is no centre line, so
   // the differences have no line to go to.

@@ -6,13 +6,23 @@
 #include <memory>
 #include <string>
 
+#include <gtest/gtest.h>
+
 #include "design_model/design_model_builder.h"
+#include "model_file/records/model_file.h"
 #include "road_model/model.h"
 
 struct ModelDeleter {
   void operator()(RmModel* model) const { vRmModelDelete(model); }
 };
 using ModelPtr = std::unique_ptr<RmModel, ModelDeleter>;
+
+// The model loaded from this file; a failed load fails the test.
+inline ModelPtr Loaded(const std::string& modelFile) {
+  ModelPtr model(RmModelCreate());
+  EXPECT_TRUE(boRmModelLoad(model.get(), modelFile.c_str())) << modelFile;
+  return model;
+}
 
 // A horizontal element from (x0, y0) at `startChain` to (x1, y1) at
 // `endChain`, with the radii at both ends and the clothoid parameter.

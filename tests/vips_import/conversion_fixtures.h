@@ -3,6 +3,7 @@
 // directory.
 #pragma once
 
+#include <initializer_list>
 #include <string>
 #include <vector>
 
@@ -33,6 +34,28 @@ inline std::string sLogHead(const std::string& version, const std::string& type,
                             const std::string& number) {
   return "Import VIPS database (.gen fil)\nVersion: " + version + " Type: " + type +
          "\nVIPS model version " + number + "\n------------------------------------\n\n";
+}
+
+// These lines, each ended by CR LF as a model file ends them.
+inline std::string sCrLf(std::initializer_list<std::string> lines) {
+  std::string text;
+  for (const std::string& line : lines) text += line + "\r\n";
+  return text;
+}
+
+// The body of the model file section with this head line ("[+L_]",
+// "[+O_VERLINE]"): the lines behind it up to the next line that starts with
+// "[", or "<none>" when the file has no such section.
+inline std::string sBody(const std::string& bytes, const std::string& head) {
+  size_t start = bytes.find(head + "\r\n");
+  if (start == std::string::npos) return "<none>";
+  start += head.size() + 2;
+  size_t end = start;
+  while (end < bytes.size() && bytes[end] != '[') {
+    size_t next = bytes.find("\r\n", end);
+    end = next == std::string::npos ? bytes.size() : next + 2;
+  }
+  return bytes.substr(start, end - start);
 }
 
 // Catches the texts of message boxes while it lives.

@@ -2,23 +2,17 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <memory>
 #include <string>
 
 #include "kvrvips/kvrvips.h"
-#include "model_file/records/model_file.h"
 #include "geometry/line.h"
 #include "road_model/model.h"
 #include "road_model/model_lines.h"
+#include "tests/vips_import/alignment_reading.h"
 #include "tests/vips_import/conversion_fixtures.h"
 #include "vips_import/version_labels.h"
 
 namespace {
-
-struct ModelDeleter {
-  void operator()(RmModel* model) const { vRmModelDelete(model); }
-};
-using ModelPtr = std::unique_ptr<RmModel, ModelDeleter>;
 
 struct Conversion {
   int result;
@@ -39,12 +33,6 @@ Conversion Convert(const std::string& design, const std::string& modelFile, uint
     conversion.log = sReadWholeFile(conversion.logPath);
   }
   return conversion;
-}
-
-ModelPtr Loaded(const std::string& modelFile) {
-  ModelPtr model(RmModelCreate());
-  EXPECT_TRUE(boRmModelLoad(model.get(), modelFile.c_str())) << modelFile;
-  return model;
 }
 
 // Saves a model with two plan lines and settings that no import makes.

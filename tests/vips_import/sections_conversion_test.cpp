@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
 
 #include "geometry/line.h"
 #include "kvrvips/kvrvips.h"
@@ -16,14 +17,6 @@
 #include "vips_import/section_finishing.h"
 
 namespace {
-
-// The text of the section `name` of a model file, up to the next section.
-std::string sSectionText(const std::string& bytes, const std::string& name) {
-  size_t start = bytes.find("[+" + name + "]\r\n");
-  if (start == std::string::npos) return "<none>";
-  size_t end = bytes.find("\r\n[", start);
-  return bytes.substr(start, end - start);
-}
 
 // Cross sections with clipping, tilt, masses with outlines, a locked
 // section and layers of every point form; long sections beside them.
@@ -65,37 +58,35 @@ void vSaveModelWithSections(const std::string& path) {
   vRmModelDelete(model);
 }
 
-}  // namespace
-
-TEST(ConvertDatabase, FlagsZeroKeepTheSectionsOfTheModelFileExactly) {
-  ScratchFolder folder;
+// The model file with sections saved in `folder`, converted with `flags`:
+// its bytes before and after.
+std::pair<std::string, std::string> SectionsBeforeAndAfter(const ScratchFolder& folder,
+                                                           uint32_t flags) {
   std::string modelFile = folder / "veg.sfi";
   vSaveModelWithSections(modelFile);
   std::string before = sReadWholeFile(modelFile);
   vWriteWholeFile(folder / "veg.json", sDesignDocument(sInputOf("10.0", 1)));
-
   char* logFile = nullptr;
-  ASSERT_EQ(iKvrVipsConvertDatabase((folder / "veg.json").c_str(), modelFile.c_str(), 0,
+  EXPECT_EQ(iKvrVipsConvertDatabase((folder / "veg.json").c_str(), modelFile.c_str(), flags,
                                     &logFile, sShippedSettings().c_str(), 0, 0),
             0);
-  std::string after = sReadWholeFile(modelFile);
-  for (const char* name : {"O_CROSSECTIONS", "L_CSECTSMASSESLINES", "O_LONGSECTIONS"}) {
-    EXPECT_NE(sSectionText(before, name), "<none>") << name;
-    EXPECT_EQ(sSectionText(after, name), sSectionText(before, name)) << name;
+  return {before, sReadWholeFile(modelFile)};
+}
+
+}  // namespace
+
+TEST(ConvertDatabase, FlagsZeroKeepTheSectionsOfTheModelFileExactly) {
+  ScratchFolder folder;
+  auto [before, after] = SectionsBeforeAndAfter(folder, 0);
+  for (const char* head : {"[+O_CROSSECTIONS]", "[+L_CSECTSMASSESLINES]", "[+O_LONGSECTIONS]"}) {
+    EXPECT_NE(sBody(before, head), "<none>") << head;
+    EXPECT_EQ(sBody(after, head), sBody(before, head)) << head;
   }
 }
 
 TEST(ConvertDatabase, ATablesImportMakesTheSectionsAnew) {
   ScratchFolder folder;
-  std::string modelFile = folder / "veg.sfi";
-  vSaveModelWithSections(modelFile);
-  vWriteWholeFile(folder / "veg.json", sDesignDocument(sInputOf("10.0", 1)));
-  char* logFile = nullptr;
-  ASSERT_EQ(iKvrVipsConvertDatabase((folder / "veg.json").c_str(), modelFile.c_str(),
-                                    KVRVIPS_IMPORT_TABLES, &logFile, sShippedSettings().c_str(),
-                                    0, 0),
-            0);
-  std::string after = sReadWholeFile(modelFile);
+  std::string after = SectionsBeforeAndAfter(folder, KVRVIPS_IMPORT_TABLES).second;
   EXPECT_EQ(after.find("CROSSECTIONS"), std::string::npos);
   EXPECT_EQ(after.find("LONGSECTIONS"), std::string::npos);
 }

@@ -8,7 +8,6 @@
 #include "road_model/road_dim_params.h"
 #include "road_model/sect_params.h"
 #include "road_model/sect_triangulation_params.h"
-#include "tests/support/scratch_folder.h"
 #include "tests/model_file/records/model_file_test_util.h"
 
 namespace {
@@ -97,11 +96,6 @@ TEST(HeadSections, ANewModelWritesSectionParametersAndMassCalculation) {
                          "[+O_SECTPARAMS]\r\n" + sCrLf(kDefaultSectParamsLines) +
                          "[+O_MASSCALC]\r\n" + sCrLf(kDefaultMassCalcLines) + "[END]\r\n";
   EXPECT_EQ(sWrittenModel(model.get()), expected);
-
-  // The same bytes on disk.
-  ScratchFolder folder;
-  ASSERT_TRUE(boRmModelWrite(model.get(), (folder / "new.sfi").c_str()));
-  EXPECT_EQ(sReadWholeFile(folder / "new.sfi"), expected);
 
   // With nothing in it, a model still has MASSCALC.
   vRmModelSetSectParams(model.get(), nullptr);

@@ -15,17 +15,6 @@
 
 namespace {
 
-// The body of the section with this head line ("[+L_]", "[+O_VERLINE]"):
-// the lines behind it up to the next line that starts with "[".
-std::string sBody(const std::string& bytes, const std::string& head) {
-  size_t start = bytes.find(head + "\r\n");
-  if (start == std::string::npos) return "<none>";
-  start += head.size() + 2;
-  size_t end = start;
-  while (end < bytes.size() && bytes[end] != '[') end = bytes.find("\r\n", end) + 2;
-  return bytes.substr(start, end - start);
-}
-
 // A model with three plan lines: the centre line of straights, an arc of
 // three quarters of a circle and a clothoid, with a vertical line, a
 // difference table and chain equations; a side line with a PCODE; and a

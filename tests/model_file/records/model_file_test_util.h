@@ -28,9 +28,12 @@ inline std::string sCrLf(std::initializer_list<std::string> lines) {
 }
 
 // The `_EXTENT` placeholder of an empty extent, as a finished file holds it.
-inline std::string sEmptyExtentLine() {
-  std::string line = "_EXTENT 99999999 99999999 -99999999 -99999999 ";
+inline std::string sExtentLine(const std::string& values) {
+  std::string line = "_EXTENT " + values + " ";
   return line + std::string(70 - line.size(), '!');
+}
+inline std::string sEmptyExtentLine() {
+  return sExtentLine("99999999 99999999 -99999999 -99999999");
 }
 
 // The head of a model file with these head keys and these O sections.
@@ -56,19 +59,23 @@ inline std::string sWrittenModel(const RmModel* model) {
   return bytes;
 }
 
-// The body of the O section `name` in a written file: the lines behind its
-// head up to the next line that starts with "[".
-inline std::string sSectionBody(const std::string& bytes, const std::string& name) {
-  std::string head = "[+O_" + name + "]\r\n";
-  size_t start = bytes.find(head);
+// The body of the section with this head line ("[+L_]", "[+O_VERLINE]"):
+// the lines behind it up to the next line that starts with "[".
+inline std::string sBody(const std::string& bytes, const std::string& head) {
+  size_t start = bytes.find(head + "\r\n");
   if (start == std::string::npos) return "<none>";
-  start += head.size();
+  start += head.size() + 2;
   size_t end = start;
   while (end < bytes.size() && bytes[end] != '[') {
     size_t next = bytes.find("\r\n", end);
     end = next == std::string::npos ? bytes.size() : next + 2;
   }
   return bytes.substr(start, end - start);
+}
+
+// The body of the O section `name` in a written file.
+inline std::string sSectionBody(const std::string& bytes, const std::string& name) {
+  return sBody(bytes, "[+O_" + name + "]");
 }
 
 // A model read from the bytes of a file, as a load reads it; null when the

@@ -22,11 +22,6 @@
 
 namespace {
 
-std::string sExtentLine(const std::string& values) {
-  std::string line = "_EXTENT " + values + " ";
-  return line + std::string(70 - line.size(), '!');
-}
-
 const std::string kSectParamsBody = sCrLf({
     "INTERVAL 10.000", "TIGHTENANGLE 0.08726646", "MAXCIRCLEDEVXY 0.100", "MAXCIRCLEDEVZ 0.000",
     "DISTLEFT 20.000", "DISTRIGHT 20.000", "ALL 1", "CHAINSTART 0.0000", "CHAINEND 0.0000",
