@@ -49,9 +49,18 @@ LiElement MakeElement(double x, double y, double z, int type) {
   return element;
 }
 
-// The element in front of `elm`, whose point starts its piece.
-const LiElement* pPrevious(const LiLine* line, LiElm elm) {
-  return elm > 0 ? &line->elements[static_cast<size_t>(elm) - 1] : nullptr;
+// The element behind `elm`, whose point ends the piece of `elm`.
+const LiElement* pNext(const LiLine* line, LiElm elm) {
+  return static_cast<size_t>(elm) + 1 < line->elements.size()
+             ? &line->elements[static_cast<size_t>(elm) + 1]
+             : nullptr;
+}
+
+// Makes the element's piece a straight again, dropping the data of a curve.
+void vMakeStraight(LiElement* element, int type) {
+  element->uType = static_cast<uint8_t>(type);
+  element->uFlags = 0;
+  element->dParam[0] = element->dParam[1] = element->dParam[2] = 0.0;
 }
 
 }  // namespace
@@ -153,13 +162,13 @@ LiElm LiLineAddP2d(LiLine* line, double x, double y) {
 
 LiElm LiLineAddPInvisible(LiLine* line, double x, double y, double z) {
   if (line == nullptr) return kLiNoElm;
-  line->elements.push_back(MakeElement(x, y, z, kLiElmInvisible));
-  return static_cast<LiElm>(line->elements.size() - 1);
+  if (!line->elements.empty()) vMakeStraight(&line->elements.back(), kLiElmInvisible);
+  return LiLineAddP(line, x, y, z);
 }
 
 LiElm LiLineAddArc2PTo(LiLine* line, double x, double y, double radius, bool large) {
   const LiElm elm = LiLineAddP2d(line, x, y);
-  if (elm > 0 && radius != 0.0) boLiElmSet2pArc(line, elm, radius, large);
+  if (elm > 0 && radius != 0.0) boLiElmSet2pArc(line, elm - 1, radius, large);
   return elm;
 }
 
@@ -208,14 +217,14 @@ LiElm LiElmGetPrev(const LiLine* line, LiElm elm) {
 
 bool boLiElmIsPartStart(const LiLine* line, LiElm elm) {
   return boValid(line, elm) &&
-         (elm == 0 || line->elements[static_cast<size_t>(elm)].uType == kLiElmInvisible);
+         (elm == 0 || line->elements[static_cast<size_t>(elm) - 1].uType == kLiElmInvisible);
 }
 
 LiElm LiElmGetPartEnd(const LiLine* line, LiElm part) {
   if (!boValid(line, part)) return kLiNoElm;
   LiElm end = part;
   while (boValid(line, end + 1) &&
-         line->elements[static_cast<size_t>(end) + 1].uType != kLiElmInvisible) {
+         line->elements[static_cast<size_t>(end)].uType != kLiElmInvisible) {
     ++end;
   }
   return end;
@@ -233,18 +242,16 @@ bool boLiElmSetType(LiLine* line, LiElm elm, int type) {
   if (type == kLiElmArc2p || type == kLiElmArc3p || type == kLiElmClothoid) {
     return element.uType == type;
   }
-  element.uType = static_cast<uint8_t>(type);
-  element.uFlags = 0;
-  element.dParam[0] = element.dParam[1] = element.dParam[2] = 0.0;
+  vMakeStraight(&element, type);
   return true;
 }
 
 bool boLiElmSet2pArc(LiLine* line, LiElm elm, double radius, bool large) {
-  if (!boValid(line, elm) || elm == 0) return false;
+  if (!boValid(line, elm) || pNext(line, elm) == nullptr) return false;
   LiElement& element = line->elements[static_cast<size_t>(elm)];
-  const LiElement& previous = *pPrevious(line, elm);
+  const LiElement& next = *pNext(line, elm);
   GrArc arc;
-  if (!boGrArcFrom2Points(previous.x, previous.y, element.x, element.y, radius, large, &arc)) {
+  if (!boGrArcFrom2Points(element.x, element.y, next.x, next.y, radius, large, &arc)) {
     return false;
   }
   element.uType = kLiElmArc2p;
@@ -255,11 +262,11 @@ bool boLiElmSet2pArc(LiLine* line, LiElm elm, double radius, bool large) {
 }
 
 bool boLiElmSet3pArc(LiLine* line, LiElm elm, double xMiddle, double yMiddle, double zMiddle) {
-  if (!boValid(line, elm) || elm == 0) return false;
+  if (!boValid(line, elm) || pNext(line, elm) == nullptr) return false;
   LiElement& element = line->elements[static_cast<size_t>(elm)];
-  const LiElement& previous = *pPrevious(line, elm);
+  const LiElement& next = *pNext(line, elm);
   GrArc arc;
-  if (!boGrArcFrom3Points(previous.x, previous.y, xMiddle, yMiddle, element.x, element.y, &arc)) {
+  if (!boGrArcFrom3Points(element.x, element.y, xMiddle, yMiddle, next.x, next.y, &arc)) {
     return false;
   }
   element.uType = kLiElmArc3p;
@@ -270,20 +277,12 @@ bool boLiElmSet3pArc(LiLine* line, LiElm elm, double xMiddle, double yMiddle, do
   return true;
 }
 
-bool boLiElmSet3pArcFromNext(LiLine* line, LiElm elm) {
-  if (!boValid(line, elm + 1) || elm < 0) return false;
-  const LiElement middle = line->elements[static_cast<size_t>(elm) + 1];
-  if (!boLiElmSet3pArc(line, elm, middle.x, middle.y, middle.z)) return false;
-  vLiLineDeleteElm(line, elm + 1);
-  return true;
-}
-
 bool boLiElmSetClotoide(LiLine* line, LiElm elm, double startRadius, double endRadius, double a) {
-  if (!boValid(line, elm) || elm == 0) return false;
+  if (!boValid(line, elm) || pNext(line, elm) == nullptr) return false;
   LiElement& element = line->elements[static_cast<size_t>(elm)];
-  const LiElement& previous = *pPrevious(line, elm);
+  const LiElement& next = *pNext(line, elm);
   VgClothoid clothoid;
-  if (!boVgClothoidFit(previous.x, previous.y, element.x, element.y, startRadius, endRadius, a,
+  if (!boVgClothoidFit(element.x, element.y, next.x, next.y, startRadius, endRadius, a,
                        &clothoid)) {
     return false;
   }

@@ -2,6 +2,8 @@
 // polygons.
 //
 // Elements are named by their position in the line (LiElm), counted from 0;
+// element k holds point k and the piece from there to point k+1 (see
+// line_element.h): an arc is set on the point where it starts.
 // kLiNoElm stands for none. A position stays valid while the line grows at
 // its end; deleting or inserting an element moves the positions behind it by
 // one. Every function takes null lines and positions out of range quietly:
@@ -80,11 +82,13 @@ void vLiLineSetGuid(LiLine* line, const char* guid);
 // height is kept but not used.
 LiElm LiLineAddP(LiLine* line, double x, double y, double z);
 LiElm LiLineAddP2d(LiLine* line, double x, double y);
-// A point reached by an invisible move: it starts a new part.
+// A point reached by an invisible move: the last element becomes the move,
+// and the new point starts a new part.
 LiElm LiLineAddPInvisible(LiLine* line, double x, double y, double z = 0.0);
 // A point reached along an arc of `radius` (positive turning left) from the
-// last point, the larger arc when `large` is set. A radius of 0, a first
-// point, or a radius too short for the chord adds a straight instead.
+// last point, the larger arc when `large` is set: the arc is set on the last
+// element. A radius of 0, a first point, or a radius too short for the chord
+// leaves a straight instead.
 LiElm LiLineAddArc2PTo(LiLine* line, double x, double y, double radius, bool large = false);
 // Inserts a straight element in front of `before` (kLiNoElm: at the end).
 LiElm LiLineInsertP(LiLine* line, LiElm before, double x, double y, double z);
@@ -98,9 +102,11 @@ LiElm LiElmGetFirst(const LiLine* line);
 LiElm LiElmGetLast(const LiLine* line);
 LiElm LiElmGetNext(const LiLine* line, LiElm elm);
 LiElm LiElmGetPrev(const LiLine* line, LiElm elm);
-// True for the first element and for invisible ones: the starts of parts.
+// True for the first element and for those behind an invisible move: the
+// starts of parts.
 bool boLiElmIsPartStart(const LiLine* line, LiElm elm);
-// The element in front of the next part's start, or the last element.
+// The last element of the part: the invisible move to the next part, or the
+// last element of the line.
 LiElm LiElmGetPartEnd(const LiLine* line, LiElm part);
 
 // ---- Element content ---------------------------------------------------------
@@ -110,20 +116,19 @@ int LiElmGetType(const LiLine* line, LiElm elm);
 // 4, which have their own setters below (setting one of them again on an
 // element of that type keeps its data). Types run from 0 to 255.
 bool boLiElmSetType(LiLine* line, LiElm elm, int type);
-// Makes the element an arc from the point before it with `radius` (positive
-// turning left) and the large-arc flag. False if there is no point before it
-// or the radius does not fit the chord (see boGrArcFrom2Points).
+// Makes the element's piece an arc from its point to the next one with
+// `radius` (positive turning left) and the large-arc flag. False if there is
+// no point after it or the radius does not fit the chord (see
+// boGrArcFrom2Points).
 bool boLiElmSet2pArc(LiLine* line, LiElm elm, double radius, bool large);
-// Makes the element an arc from the point before it through the middle point.
-// False without a point before it or for three points on a straight line.
+// Makes the element's piece an arc from its point through the middle point to
+// the next point. False without a point after it or for three points on a
+// straight line.
 bool boLiElmSet3pArc(LiLine* line, LiElm elm, double xMiddle, double yMiddle, double zMiddle = 0.0);
-// For readers that meet the middle point as the element behind the end point:
-// takes the element behind `elm` as the middle point, removes it, and makes
-// `elm` the arc.
-bool boLiElmSet3pArcFromNext(LiLine* line, LiElm elm);
-// Makes the element a clothoid from the point before it: start radius, end
-// radius (0 for a straight end, positive turning left) and parameter A. False
-// when the clothoid cannot be laid between the points (boVgClothoidFit).
+// Makes the element's piece a clothoid from its point to the next one: start
+// radius, end radius (0 for a straight end, positive turning left) and
+// parameter A. False without a point after it or when the clothoid cannot be
+// laid between the points (boVgClothoidFit).
 bool boLiElmSetClotoide(LiLine* line, LiElm elm, double startRadius, double endRadius, double a);
 
 void vLiElmGetP2d(const LiLine* line, LiElm elm, ViPoint2d* point);

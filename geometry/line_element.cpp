@@ -33,18 +33,18 @@ void vMakeStraight(LiPiece* piece) {
 
 }  // namespace
 
-LiPiece LiPieceMake(const LiElement* previous, const LiElement& element) {
+LiPiece LiPieceMake(const LiElement& element, const LiElement* next) {
   LiPiece piece{};
-  piece.end = {element.x, element.y};
-  piece.dEndZ = element.z;
-  if (previous == nullptr || element.uType == kLiElmInvisible) {
+  piece.start = {element.x, element.y};
+  piece.dStartZ = element.z;
+  if (next == nullptr || element.uType == kLiElmInvisible) {
     piece.kind = LiPieceKind::kNone;
-    piece.start = piece.end;
-    piece.dStartZ = element.z;
+    piece.end = piece.start;
+    piece.dEndZ = element.z;
     return piece;
   }
-  piece.start = {previous->x, previous->y};
-  piece.dStartZ = previous->z;
+  piece.end = {next->x, next->y};
+  piece.dEndZ = next->z;
   switch (element.uType) {
     case kLiElmArc2p:
       if (boGrArcFrom2Points(piece.start.x, piece.start.y, piece.end.x, piece.end.y,

@@ -1,10 +1,14 @@
 // Elements of a line and the pieces of curve that they draw.
 //
-// A line is a row of elements. Each element holds the point in which it
-// ends and says how the line gets there from the point of the element before
-// it: in a straight, along an arc, along a clothoid, or by an invisible move
-// that draws nothing. The first element of a line, and every invisible one,
-// starts a part: a run of drawn pieces.
+// A line is a row of elements. Each element holds a point and says how the
+// line goes on from that point to the point of the next element: in a
+// straight, along an arc, along a clothoid, or by an invisible move that
+// draws nothing. The piece from point k to point k+1 therefore belongs to
+// element k, its start, as in the element block of a model file, where the
+// words of a piece stand on the line of its start point. The last element of
+// a line has no piece of its own (a polygon closes its ring from there by a
+// straight). The first element of a line, and every element behind an
+// invisible move, starts a part: a run of drawn pieces.
 #pragma once
 
 #include <cstdint>
@@ -19,7 +23,7 @@ enum : int {
   kLiElmArc2p = 1,         // arc by its two end points, radius and large-arc flag
   kLiElmArc3p = 2,         // arc by its two end points and a middle point
   kLiElmClothoid = 4,      // clothoid: start radius, end radius, parameter A
-  kLiElmInvisible = 97,    // invisible move: starts a new part
+  kLiElmInvisible = 97,    // invisible move: the next point starts a new part
   kLiElmStraightAlt = 98,  // straight piece of a second kind, drawn and measured as 0
 };
 // Any other type is kept as it is given and drawn as a straight.
@@ -31,7 +35,7 @@ inline constexpr int kLiElmTextMax = 1000;
 
 // One element as the line stores it: 64 bytes, kept in one array per line.
 struct LiElement {
-  double x, y, z;                  // the point in which the element ends
+  double x, y, z;                  // the point from which the element's piece starts
   double dParam[3];                // arc by two points: radius; by three: middle x, y, z;
                                    // clothoid: start radius, end radius, A
   int32_t iData[kLiElmDataSlots];  // the user's element data
@@ -44,7 +48,7 @@ static_assert(sizeof(LiElement) == 64, "an element stays 64 bytes");
 
 inline constexpr uint8_t kLiElmFlagLarge = 1;
 
-// The curve that an element draws from the previous point to its own.
+// The curve that an element draws from its point to the next one.
 enum class LiPieceKind : uint8_t { kNone, kStraight, kArc, kClothoid };
 
 struct LiPiece {
@@ -56,11 +60,11 @@ struct LiPiece {
   VgClothoid clothoid;
 };
 
-// The piece of `element`, coming from `previous` (null for the first element
-// of the line). Invisible moves and first elements draw nothing (kNone). An
-// arc or clothoid whose data cannot be laid between its points draws a
-// straight.
-LiPiece LiPieceMake(const LiElement* previous, const LiElement& element);
+// The piece of `element`, going on to `next` (null for the last element of
+// the line). Invisible moves and last elements draw nothing (kNone); their
+// piece starts and ends at the element's point. An arc or clothoid whose data
+// cannot be laid between its points draws a straight.
+LiPiece LiPieceMake(const LiElement& element, const LiElement* next);
 
 // Point, direction of travel (radians; may be null) and height at the length
 // `s` from the piece's start; `s` is held within the piece.

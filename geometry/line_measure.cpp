@@ -9,8 +9,9 @@ constexpr double kLengthTolerance = 0.001;
 // The piece of element `index`, with the heights of a 2D line taken from its
 // fixed height.
 LiPiece PieceOf(const LiLine& line, size_t index) {
-  LiPiece piece =
-      LiPieceMake(index > 0 ? &line.elements[index - 1] : nullptr, line.elements[index]);
+  LiPiece piece = LiPieceMake(line.elements[index], index + 1 < line.elements.size()
+                                                        ? &line.elements[index + 1]
+                                                        : nullptr);
   if (!line.bo3d) piece.dStartZ = piece.dEndZ = dLiLineGetHeight(&line);
   return piece;
 }
@@ -25,7 +26,7 @@ void vPartAreaMoments(const LiLine& line, LiElm part, double originX, double ori
   *area = 0.0;
   *moment = 0.0;
   const LiElm end = LiElmGetPartEnd(&line, part);
-  for (LiElm elm = part + 1; elm <= end; ++elm) {
+  for (LiElm elm = part; elm < end; ++elm) {
     double pieceArea, pieceMoment;
     vLiPieceAreaMoments(PieceOf(line, static_cast<size_t>(elm)), originX, originY, &pieceArea,
                         &pieceMoment);
@@ -50,7 +51,7 @@ bool boFindPieceAt(const LiLine* line, double length, LiPiece* found, double* al
   if (line == nullptr || line->elements.empty() || length < -kLengthTolerance) return false;
   double start = 0.0;
   bool any = false;
-  for (size_t i = 1; i < line->elements.size(); ++i) {
+  for (size_t i = 0; i < line->elements.size(); ++i) {
     const LiPiece piece = PieceOf(*line, i);
     if (piece.kind == LiPieceKind::kNone || !(piece.dLength > 0.0)) continue;
     *found = piece;
@@ -67,6 +68,18 @@ bool boFindPieceAt(const LiLine* line, double length, LiPiece* found, double* al
   return true;
 }
 
+// Removes the element `elm`, whose point repeats the one before: the element
+// before takes over its piece (and with it an invisible move to the next
+// part), and keeps its own point data.
+void vRemoveKeepingPiece(LiLine* line, LiElm elm) {
+  LiElement& previous = line->elements[static_cast<size_t>(elm) - 1];
+  const LiElement& removed = line->elements[static_cast<size_t>(elm)];
+  previous.uType = removed.uType;
+  previous.uFlags = removed.uFlags;
+  for (int i = 0; i < 3; ++i) previous.dParam[i] = removed.dParam[i];
+  vLiLineDeleteElm(line, elm);
+}
+
 }  // namespace
 
 double dLiElmLength(const LiLine* line, LiElm elm) {
@@ -77,7 +90,7 @@ double dLiElmLength(const LiLine* line, LiElm elm) {
 double dLiLineLength(const LiLine* line) {
   if (line == nullptr) return 0.0;
   double length = 0.0;
-  for (size_t i = 1; i < line->elements.size(); ++i) length += PieceOf(*line, i).dLength;
+  for (size_t i = 0; i < line->elements.size(); ++i) length += PieceOf(*line, i).dLength;
   return length;
 }
 
@@ -85,7 +98,7 @@ double dLiLinePartLength(const LiLine* line, LiElm part, int mode) {
   if (!boHasElm(line, part)) return 0.0;
   const LiElm end = LiElmGetPartEnd(line, part);
   double length = 0.0;
-  for (LiElm elm = part + 1; elm <= end; ++elm) {
+  for (LiElm elm = part; elm < end; ++elm) {
     const LiPiece piece = PieceOf(*line, static_cast<size_t>(elm));
     if (mode == 3 && line->bo3d) {
       length += std::hypot(piece.dLength, piece.dEndZ - piece.dStartZ);
@@ -159,10 +172,10 @@ bool boLiLineGetLengthAtPoint(const LiLine* line, double x, double y, double max
   double bestAlong = 0.0;
   bool found = false;
   size_t bestIndex = 0, firstIndex = 0, lastIndex = 0;
-  for (size_t i = 1; i < line->elements.size(); ++i) {
+  for (size_t i = 0; i < line->elements.size(); ++i) {
     const LiPiece piece = PieceOf(*line, i);
     if (piece.kind == LiPieceKind::kNone || !(piece.dLength > 0.0)) continue;
-    if (firstIndex == 0) firstIndex = i;
+    if (!found) firstIndex = i;
     lastIndex = i;
     double along;
     const double distance = dLiPieceNearest(piece, x, y, &along);
@@ -203,7 +216,7 @@ LiElm LiLineFindNearestSeg(const LiLine* line, double x, double y, double maxDis
   if (line == nullptr) return kLiNoElm;
   LiElm best = kLiNoElm;
   double bestDistance = 0.0;
-  for (size_t i = 1; i < line->elements.size(); ++i) {
+  for (size_t i = 0; i < line->elements.size(); ++i) {
     const LiPiece piece = PieceOf(*line, i);
     if (piece.kind == LiPieceKind::kNone) continue;
     double along;
@@ -244,9 +257,9 @@ int iLiLineRemoveShortElements(LiLine* line, int mode) {
   for (LiElm elm = 1; elm < iLiLineGetElmCount(line);) {
     const LiElement& previous = line->elements[static_cast<size_t>(elm) - 1];
     const LiElement& element = line->elements[static_cast<size_t>(elm)];
-    if (element.uType != kLiElmInvisible &&
+    if (previous.uType != kLiElmInvisible &&
         boViIsCommonPoint(previous.x, previous.y, element.x, element.y)) {
-      vLiLineDeleteElm(line, elm);
+      vRemoveKeepingPiece(line, elm);
       ++removed;
     } else {
       ++elm;
@@ -258,7 +271,7 @@ int iLiLineRemoveShortElements(LiLine* line, int mode) {
       const LiElement& first = line->elements[static_cast<size_t>(part)];
       const LiElement& last = line->elements[static_cast<size_t>(end)];
       if (end > part && boViIsCommonPoint(first.x, first.y, last.x, last.y)) {
-        vLiLineDeleteElm(line, end);
+        vRemoveKeepingPiece(line, end);
         ++removed;
         part = LiElmGetNext(line, end - 1);
       } else {

@@ -9,7 +9,7 @@
 
 #include "geometry/line.h"
 
-// Length of the piece that ends in `elm`.
+// Length of the piece that starts at `elm`.
 double dLiElmLength(const LiLine* line, LiElm elm);
 double dLiLineLength(const LiLine* line);
 
@@ -55,7 +55,8 @@ int iLiElmFindSide(const LiLine* line, LiElm elm, double x, double y);
 void vLiLineGetExtent(const LiLine* line, ViExtent* extent);
 
 // Removes each element whose point is a common point (boViIsCommonPoint) of
-// the point before it, except invisible moves. With `mode` 1 on a polygon,
-// also the last element of a part that returns to the part's first point,
-// since a ring closes by itself. Returns the number of elements removed.
+// the point before it, except behind invisible moves; the element before
+// takes over the piece of the removed one. With `mode` 1 on a polygon, also
+// the last element of a part that returns to the part's first point, since a
+// ring closes by itself. Returns the number of elements removed.
 int iLiLineRemoveShortElements(LiLine* line, int mode);

@@ -18,7 +18,7 @@ struct Segment {
   ViPoint2d cornerAfter;  // the original point where the segment ends
   double dRadius;         // moved arc: signed radius, positive turning left
   bool boLarge;
-  LiElm source;  // element whose data the end point takes
+  LiElm source;  // element whose point data the moved end point takes
 };
 
 ViPoint2d RightOf(const ViPoint2d& point, double direction, double distance) {
@@ -52,21 +52,23 @@ void vAddArc(std::vector<Segment>* segments, const LiPiece& piece, double distan
 // The segments of one part, moved.
 std::vector<Segment> MovedSegments(const LiLine& line, LiElm part, LiElm end, double distance) {
   std::vector<Segment> segments;
-  for (LiElm elm = part + 1; elm <= end; ++elm) {
+  for (LiElm elm = part; elm < end; ++elm) {
     const LiElement& element = line.elements[static_cast<size_t>(elm)];
-    const LiPiece piece = LiPieceMake(&line.elements[static_cast<size_t>(elm) - 1], element);
+    const LiPiece piece = LiPieceMake(element, &line.elements[static_cast<size_t>(elm) + 1]);
     if (!(piece.dLength > 0.0)) continue;
+    // The piece's end point is the next element's, and so is its data.
+    const LiElm endPoint = elm + 1;
     if (piece.kind == LiPieceKind::kArc && element.uType == kLiElmArc2p) {
-      vAddArc(&segments, piece, distance, elm);
+      vAddArc(&segments, piece, distance, endPoint);
     } else if (piece.kind == LiPieceKind::kStraight) {
-      vAddStraight(&segments, piece.start, piece.end, distance, elm);
+      vAddStraight(&segments, piece.start, piece.end, distance, endPoint);
     } else {
       const int chords = iLiPieceChordCount(piece, kChordTolerance);
       ViPoint2d from = piece.start;
       for (int k = 1; k <= chords; ++k) {
         ViPoint2d to;
         vLiPiecePointAt(piece, piece.dLength * k / chords, &to, nullptr, nullptr);
-        vAddStraight(&segments, from, to, distance, elm);
+        vAddStraight(&segments, from, to, distance, endPoint);
         from = to;
       }
     }
@@ -149,7 +151,7 @@ LiLine* LiLineCreateParallel(const LiLine* line, double distance) {
                               boViIsCommonPoint(segment.to, segments.front().from);
       if (closesRing) break;
       const LiElm added = AddPoint(result, *line, segment.to, segment.source, false);
-      if (segment.boArc) boLiElmSet2pArc(result, added, segment.dRadius, segment.boLarge);
+      if (segment.boArc) boLiElmSet2pArc(result, added - 1, segment.dRadius, segment.boLarge);
       lastAdded = segment.to;
     }
     part = LiElmGetNext(line, end);

@@ -44,9 +44,9 @@ bool boAppendRings(const YgPolygon* polygon, Paths* paths) {
     Path path;
     const LiElement& first = elements[static_cast<size_t>(part)];
     if (!boAppendPoint(&path, first.x, first.y)) return false;
-    for (LiElm elm = part + 1; elm <= end; ++elm) {
+    for (LiElm elm = part; elm < end; ++elm) {
       const LiPiece piece =
-          LiPieceMake(&elements[static_cast<size_t>(elm) - 1], elements[static_cast<size_t>(elm)]);
+          LiPieceMake(elements[static_cast<size_t>(elm)], &elements[static_cast<size_t>(elm) + 1]);
       const int chords = iLiPieceChordCount(piece, kYgClipChordTolerance);
       for (int k = 1; k < chords; ++k) {
         ViPoint2d point;

@@ -123,9 +123,11 @@ void vRmLayerSetFromLine(RmLayer* layer, const LiLine* line) {
     RmPoint* point = RmPointAdd(layer, nullptr, at.x, at.y, iLiElmGetData(line, elm, kPcodeSlot));
     if (!point) return;
     vRmPointSetMark(point, iLiElmGetData(line, elm, kMarkSlot));
-    if (!startsPart && LiElmGetType(line, elm) == kLiElmArc2p) {
+    // The arc that ends in this point is the piece of the element before.
+    const LiElm arcStart = LiElmGetPrev(line, elm);
+    if (!startsPart && LiElmGetType(line, arcStart) == kLiElmArc2p) {
       if (RmPoint* owner = RmPointGetArcOwner(point)) {
-        owner->Radius = static_cast<float>(dLiElmGetRadius(line, elm));
+        owner->Radius = static_cast<float>(dLiElmGetRadius(line, arcStart));
       }
     }
   }

@@ -11,6 +11,9 @@ LiElm RmLineAddAlignmentElement(RmLine* line, const RmAlignmentElement& element,
     LiLineAddP(line, element.StartX, element.StartY, 0.0);
     vRmLineSetStartChain(line, element.StartChain);
   }
+  // The piece from the previous point to the end point belongs to the
+  // previous point, where it starts.
+  LiElm start = LiElmGetLast(line);
   LiElm end = LiLineAddP(line, element.EndX, element.EndY, 0.0);
   double r1 = element.StartRadius;
   double r2 = element.EndRadius;
@@ -18,9 +21,9 @@ LiElm RmLineAddAlignmentElement(RmLine* line, const RmAlignmentElement& element,
   if (!straightStart && boEqual(r1, r2)) {
     // Only the length tells the larger arc: a half circle or less never is.
     double length = element.EndChain - element.StartChain;
-    boLiElmSet2pArc(line, end, r1, length > std::fabs(r1) * std::numbers::pi);
+    boLiElmSet2pArc(line, start, r1, length > std::fabs(r1) * std::numbers::pi);
   } else if (!straightStart || !boEqual(r2, 0.0)) {
-    boLiElmSetClotoide(line, end, r1, r2, element.A);
+    boLiElmSetClotoide(line, start, r1, r2, element.A);
   }
   return end;
 }

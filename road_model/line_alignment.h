@@ -21,6 +21,7 @@ struct RmAlignmentElement {
 // chainage. The end point is joined to the point before it by an arc when
 // both radii are the same and not 0 (the larger arc when the element is
 // longer than half a circle), by a clothoid when the radii differ, and by a
-// straight when both are 0; radii compare within 1e-5. Returns the end
+// straight when both are 0; radii compare within 1e-5. The arc or clothoid
+// is set on the point before, where its piece starts. Returns the end
 // point's element.
 LiElm RmLineAddAlignmentElement(RmLine* line, const RmAlignmentElement& element, bool first);

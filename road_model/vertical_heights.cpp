@@ -72,10 +72,10 @@ struct HeightExtremes {
 void vTakeLinePoints(const RmLine* line, HeightExtremes* extremes) {
   double chain = dRmLineGetStartChain(line);
   for (LiElm elm = LiElmGetFirst(line); elm != kLiNoElm; elm = LiElmGetNext(line, elm)) {
-    chain += dLiElmLength(line, elm);
     ViPoint3d point;
     vLiElmGetP3d(line, elm, &point);
     extremes->vTake(chain, point.z);
+    chain += dLiElmLength(line, elm);  // the piece from this point to the next
   }
 }
 

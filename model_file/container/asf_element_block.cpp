@@ -138,18 +138,25 @@ void vWriteElement(AsfRecordOutput* output, const LiLine* line, LiElm elm,
 
 // ---- Reading ----
 
-// What the words behind a point make of its element, applied when the next
-// point comes (the middle point of an arc by three points comes only then)
-// or when the block ends.
+// What the words behind a point make of its element, the piece that starts
+// there: applied when the point that ends the piece has been added. An arc by
+// three points waits for two point lines, its middle point and then its end.
 struct PendingElement {
   int iType;  // 0: nothing pending
   LiElm elm;
-  double adParam[3];
+  double adParam[3];  // arc by three points: the middle point, once read
   bool boLarge;
+  bool boHasMiddle;
 };
 
 void vApply(LiLine* line, PendingElement* pending) {
   switch (pending->iType) {
+    case kLiElmArc3p:
+      if (pending->boHasMiddle) {
+        boLiElmSet3pArc(line, pending->elm, pending->adParam[0], pending->adParam[1],
+                        pending->adParam[2]);
+      }
+      break;
     case kLiElmArc2p:
       boLiElmSet2pArc(line, pending->elm, pending->adParam[0], pending->boLarge);
       break;
@@ -202,7 +209,7 @@ void vReadWords(AsfFile* file, LiLine* line, LiElm current, const char* cursor,
     cursor = pWordEnd(word);
     size_t length = static_cast<size_t>(cursor - word);
     if (boWordIs(word, length, "a2p")) {
-      *pending = PendingElement{kLiElmArc2p, current, {0.0, 0.0, 0.0}, false};
+      *pending = PendingElement{kLiElmArc2p, current, {0.0, 0.0, 0.0}, false, false};
       boAsfScanNumber(&cursor, &pending->adParam[0]);
       const char* flag = pSkipBlanks(cursor);
       if (flag[0] == '1' && (flag[1] == 0 || flag[1] == ' ' || flag[1] == '\t')) {
@@ -210,12 +217,12 @@ void vReadWords(AsfFile* file, LiLine* line, LiElm current, const char* cursor,
         cursor = flag + 1;
       }
     } else if (boWordIs(word, length, "a3p")) {
-      *pending = PendingElement{kLiElmArc3p, current, {0.0, 0.0, 0.0}, false};
+      *pending = PendingElement{kLiElmArc3p, current, {0.0, 0.0, 0.0}, false, false};
     } else if (boWordIs(word, length, "clot")) {
-      *pending = PendingElement{kLiElmClothoid, current, {0.0, 0.0, 0.0}, false};
+      *pending = PendingElement{kLiElmClothoid, current, {0.0, 0.0, 0.0}, false, false};
       for (double& param : pending->adParam) boAsfScanNumber(&cursor, &param);
     } else if (boWordIs(word, length, "invis")) {
-      *pending = PendingElement{kLiElmInvisible, current, {0.0, 0.0, 0.0}, false};
+      *pending = PendingElement{kLiElmInvisible, current, {0.0, 0.0, 0.0}, false, false};
     } else if (boWordIs(word, length, "elmdata")) {
       cursor = pReadElmData(file, line, current, cursor);
     }
@@ -248,16 +255,23 @@ void vAsfElementBlockRead(AsfFile* file, LiLine* line) {
     boAsfScanNumber(&cursor, &point[1]);
     if (file->bo3D) boAsfScanNumber(&cursor, &point[2]);
     LiElm current;
-    if (pending.iType == kLiElmArc3p) {
-      // The middle point of the arc that ends in the element before.
-      boLiElmSet3pArc(line, pending.elm, point[0], point[1], point[2]);
+    if (pending.iType == kLiElmArc3p && !pending.boHasMiddle) {
+      // The middle point of the arc that starts at the pending element; what
+      // stands behind it belongs to that element too.
+      for (int i = 0; i < 3; ++i) pending.adParam[i] = point[i];
+      pending.boHasMiddle = true;
       current = pending.elm;
-      pending.iType = 0;
     } else {
       current = LiLineAddP(line, point[0], point[1], point[2]);
       vApply(line, &pending);
     }
     vReadWords(file, line, current, cursor, &pending);
   }
-  vApply(line, &pending);
+  // An arc by three points without its end keeps its middle as a point; an
+  // invisible move on the last point stays one.
+  if (pending.iType == kLiElmArc3p && pending.boHasMiddle) {
+    LiLineAddP(line, pending.adParam[0], pending.adParam[1], pending.adParam[2]);
+  } else {
+    vApply(line, &pending);
+  }
 }

@@ -11,9 +11,11 @@
 //   !?                           an element of a type without a form
 //
 // and behind any of them " elmdata (text)" with the caller's extra data.
+// The words of a piece stand on the line of its start point: "x y a2p R"
+// says that the line goes on from (x, y) to the next point along an arc.
 // Elements of type 3 are left out. A line holds at most 127 bytes. On
 // reading, an arc or clothoid that cannot be laid between its points stays
-// a straight; so does a clothoid that would turn more than 100 radians.
+// a straight; so does a clothoid that would turn more than 200 radians.
 #pragma once
 
 #include "geometry/line.h"

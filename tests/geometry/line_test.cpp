@@ -23,10 +23,10 @@ LiLine* MixedLine() {
   LiLineAddP(line, 0.0, 0.0, 0.0);
   LiLineAddP(line, 10.0, 0.0, 1.0);
   LiLineAddArc2PTo(line, 20.0, 10.0, 10.0);
-  LiLineAddPInvisible(line, 20.0, 20.0, 5.0);
-  const LiElm alt = LiLineAddP(line, 20.0, 30.0, 7.0);
+  const LiElm alt = LiLineAddPInvisible(line, 20.0, 20.0, 5.0);
   boLiElmSetType(line, alt, kLiElmStraightAlt);
-  const LiElm half = LiLineAddP(line, 30.0, 30.0, 7.0);
+  const LiElm half = LiLineAddP(line, 20.0, 30.0, 7.0);
+  LiLineAddP(line, 30.0, 30.0, 7.0);
   boLiElmSet3pArc(line, half, 25.0, 35.0);
   return line;
 }
@@ -71,26 +71,27 @@ TEST(LineWalk, PositionAndDirectionInsideEveryKindOfPiece) {
 TEST(LineWalk, NearestPieceAndSide) {
   OwnedLine line(MixedLine());
   double distance = 0.0;
-  EXPECT_EQ(LiLineFindNearestSeg(line, 5.0, 1.0, -1.0, &distance), 1);
+  // Each piece is found by its start point.
+  EXPECT_EQ(LiLineFindNearestSeg(line, 5.0, 1.0, -1.0, &distance), 0);
   EXPECT_NEAR(distance, 1.0, 1e-12);
-  EXPECT_EQ(iLiElmFindSide(line, 1, 5.0, 1.0), -1);
-  EXPECT_EQ(iLiElmFindSide(line, 1, 5.0, -1.0), 1);
-  EXPECT_EQ(iLiElmFindSide(line, 1, 5.0, 0.0), 0);
+  EXPECT_EQ(iLiElmFindSide(line, 0, 5.0, 1.0), -1);
+  EXPECT_EQ(iLiElmFindSide(line, 0, 5.0, -1.0), 1);
+  EXPECT_EQ(iLiElmFindSide(line, 0, 5.0, 0.0), 0);
   EXPECT_EQ(LiLineFindNearestSeg(line, 5.0, 1.0, 0.5, &distance), kLiNoElm);
 
   // The quarter circle: its centre lies on the left, a point outside it on
   // the right, at the distance from the circle.
   EXPECT_EQ(LiLineFindNearestSeg(line, 10.0 + 12.0 * std::sin(0.5), 10.0 - 12.0 * std::cos(0.5),
                                  -1.0, &distance),
-            2);
+            1);
   EXPECT_NEAR(distance, 2.0, 1e-9);
-  EXPECT_EQ(iLiElmFindSide(line, 2, 10.0 + 12.0 * std::sin(0.5), 10.0 - 12.0 * std::cos(0.5)), 1);
-  EXPECT_EQ(iLiElmFindSide(line, 2, 12.0, 5.0), -1);
+  EXPECT_EQ(iLiElmFindSide(line, 1, 10.0 + 12.0 * std::sin(0.5), 10.0 - 12.0 * std::cos(0.5)), 1);
+  EXPECT_EQ(iLiElmFindSide(line, 1, 12.0, 5.0), -1);
 
   // The gap of the invisible move is no piece: a point in it is nearest to
   // the pieces on either side.
-  EXPECT_NE(LiLineFindNearestSeg(line, 21.0, 15.0, -1.0, &distance), 3);
-  EXPECT_EQ(iLiElmFindSide(line, 3, 21.0, 15.0), 0);
+  EXPECT_NE(LiLineFindNearestSeg(line, 21.0, 15.0, -1.0, &distance), 2);
+  EXPECT_EQ(iLiElmFindSide(line, 2, 21.0, 15.0), 0);
   EXPECT_EQ(LiLineFindNearestSeg(nullptr, 0.0, 0.0, -1.0, &distance), kLiNoElm);
 }
 
@@ -173,7 +174,7 @@ TEST(LineElements, DataTextsTypesAndShortElements) {
   EXPECT_EQ(LiElmGetType(line, 2), 3);
   EXPECT_FALSE(boLiElmSetType(line, 2, kLiElmArc2p));
   EXPECT_FALSE(boLiElmSetType(line, 2, 256));
-  EXPECT_TRUE(boLiElmSetType(line, 2, kLiElmInvisible));
+  EXPECT_TRUE(boLiElmSetType(line, 1, kLiElmInvisible));
   EXPECT_TRUE(boLiElmIsPartStart(line, 2));
 
   // A copy carries geometry, texts and GUID, and compacts the texts.

@@ -136,7 +136,7 @@ TEST(PolygonClip, HolesAndDisjointParts) {
   OwnedPolygon pair(pYgPolygonPolygonClipAndSortPartsForIslands(right, left, kYgClipUnion, 1));
   ASSERT_NE(pair, nullptr);
   EXPECT_THAT(PartAreas(pair), ElementsAre(DoubleNear(1.0, 1e-9), DoubleNear(2.0, 1e-9)));
-  EXPECT_EQ(YgElmGetType(pair, 4), kLiElmInvisible);
+  EXPECT_EQ(YgElmGetType(pair, 3), kLiElmInvisible);
 
   // An island in the hole follows its own group, after the holed ring.
   OwnedPolygon island(Rectangle(4.0, 4.0, 6.0, 6.0));

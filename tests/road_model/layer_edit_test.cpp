@@ -181,9 +181,10 @@ TEST(LayerTransform, ALayerAsALineBreaksAtGapsAndCarriesArcsAndCodes) {
   LiLine* line = RmLayerToLine(layer.get(), true);
   ASSERT_NE(line, nullptr);
   ASSERT_EQ(iLiLineGetElmCount(line), 3);
-  EXPECT_EQ(LiElmGetType(line, 1), kLiElmInvisible);
-  EXPECT_EQ(LiElmGetType(line, 2), kLiElmArc2p);
-  EXPECT_EQ(dLiElmGetRadius(line, 2), 1.25);
+  // The move and the arc are the pieces of the points where they start.
+  EXPECT_EQ(LiElmGetType(line, 0), kLiElmInvisible);
+  EXPECT_EQ(LiElmGetType(line, 1), kLiElmArc2p);
+  EXPECT_EQ(dLiElmGetRadius(line, 1), 1.25);
   EXPECT_EQ(iLiElmGetData(line, 0, 0), 10100);
   EXPECT_EQ(iLiElmGetData(line, 0, 1), 1);
   EXPECT_EQ(iLiElmGetData(line, 2, 0), 30100);

@@ -51,16 +51,16 @@ struct Alignment {
     line = RmLinesAddWithId(lines, 1, false);
     vRmLineSetStartChain(line, kStartChain);
     LiLineAddP(line, 0.0, 0.0, 0.0);
-    LiLineAddP(line, kStraight, 0.0, 0.0);
+    LiElm clothoid = LiLineAddP(line, kStraight, 0.0, 0.0);
     ViPoint2d clothoidEnd = ClothoidPoint(kClothoidLength);
-    LiElm clothoid = LiLineAddP(line, clothoidEnd.x, clothoidEnd.y, 0.0);
+    LiElm arc = LiLineAddP(line, clothoidEnd.x, clothoidEnd.y, 0.0);
     EXPECT_TRUE(boLiElmSetClotoide(line, clothoid, 0.0, kRadius, std::sqrt(kRadius * kClothoidLength)));
     double theta = ClothoidDirection(kClothoidLength);
     arcCenter = {clothoidEnd.x - kRadius * std::sin(theta), clothoidEnd.y + kRadius * std::cos(theta)};
     arcStartAngle = theta - M_PI / 2.0;
     double endAngle = arcStartAngle + kSweep;
     ViPoint2d arcEnd{arcCenter.x + kRadius * std::cos(endAngle), arcCenter.y + kRadius * std::sin(endAngle)};
-    LiElm arc = LiLineAddP(line, arcEnd.x, arcEnd.y, 0.0);
+    LiLineAddP(line, arcEnd.x, arcEnd.y, 0.0);
     EXPECT_TRUE(boLiElmSet2pArc(line, arc, kRadius, true));
     double leave = endAngle + M_PI / 2.0;
     LiLineAddP(line, arcEnd.x + kLastStraight * std::cos(leave), arcEnd.y + kLastStraight * std::sin(leave),
@@ -210,14 +210,15 @@ TEST(LineAlignment, ElementsBecomeStraightsArcsAndClothoids) {
   RmLineAddAlignmentElement(line, {0.0, 10.0, 0.0, 0.0, 0.0, -59, 150, -69, 150}, false);
   EXPECT_EQ(dRmLineGetStartChain(line), 0.0);
   ASSERT_EQ(iLiLineGetElmCount(line), 5);
+  // Each piece is set on the point where it starts.
+  EXPECT_EQ(LiElmGetType(line, 0), kLiElmArc2p);
+  EXPECT_FALSE(boLiElmIsLarge(line, 0));
   EXPECT_EQ(LiElmGetType(line, 1), kLiElmArc2p);
-  EXPECT_FALSE(boLiElmIsLarge(line, 1));
-  EXPECT_EQ(LiElmGetType(line, 2), kLiElmArc2p);
-  EXPECT_TRUE(boLiElmIsLarge(line, 2));
-  EXPECT_EQ(dLiElmGetRadius(line, 2), -50.0);
-  EXPECT_EQ(LiElmGetType(line, 3), kLiElmClothoid);
-  EXPECT_EQ(LiElmGetType(line, 4), kLiElmStraight);
-  EXPECT_NEAR(dLiElmLength(line, 2), 1.5 * half, 1e-9);
+  EXPECT_TRUE(boLiElmIsLarge(line, 1));
+  EXPECT_EQ(dLiElmGetRadius(line, 1), -50.0);
+  EXPECT_EQ(LiElmGetType(line, 2), kLiElmClothoid);
+  EXPECT_EQ(LiElmGetType(line, 3), kLiElmStraight);
+  EXPECT_NEAR(dLiElmLength(line, 1), 1.5 * half, 1e-9);
   // A second alignment of the same id goes on behind and sets the start.
   RmLineAddAlignmentElement(line, {500.0, 510.0, 0.0, 0.0, 0.0, 0, 0, 10, 0}, true);
   EXPECT_EQ(iLiLineGetElmCount(line), 7);

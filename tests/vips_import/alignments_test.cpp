@@ -75,9 +75,10 @@ TEST(ReadAlignments, OnlyAnArcLongerThanAHalfCircleIsTheLargeOne) {
   for (const auto& arc : expected) {
     RmLine* line = RmLinesFindById(Lines(model), arc.id);
     ASSERT_EQ(iLiLineGetElmCount(line), 2) << arc.id;
-    EXPECT_EQ(LiElmGetType(line, 1), kLiElmArc2p) << arc.id;
-    EXPECT_EQ(dLiElmGetRadius(line, 1), arc.radius) << arc.id;
-    EXPECT_EQ(boLiElmIsLarge(line, 1), arc.large) << arc.id;
+    // The arc is the piece of its start point.
+    EXPECT_EQ(LiElmGetType(line, 0), kLiElmArc2p) << arc.id;
+    EXPECT_EQ(dLiElmGetRadius(line, 0), arc.radius) << arc.id;
+    EXPECT_EQ(boLiElmIsLarge(line, 0), arc.large) << arc.id;
   }
 }
 

@@ -41,27 +41,20 @@ void vTakeElementText(void* datum, LiLine*, int32_t element, const char* text,
 }
 
 // A 2D line with an element of every kind and an extent that the points at
-// (-50, -40) and (61, 70) span.
+// (-50, -40) and (61, 70) span. Each piece is set on its start point.
 LiLine* MakeEveryKindLine(LiLines* lines) {
   LiLine* line = LiLinesCreate2dLine(lines, 7);
-  LiLineAddP(line, 0, 0, 0);
-  LiElm elm = LiLineAddP(line, 10, 0, 0);
-  EXPECT_TRUE(boLiElmSet2pArc(line, elm, 10, true));
-  elm = LiLineAddP(line, 20, 0, 0);
-  EXPECT_TRUE(boLiElmSet2pArc(line, elm, -12.5, false));
-  elm = LiLineAddP(line, 30, 10, 0);
-  EXPECT_TRUE(boLiElmSet3pArc(line, elm, 22.928932, 7.071068));
-  elm = LiLineAddP(line, 35, 10, 0);
-  EXPECT_TRUE(boLiElmSetType(line, elm, 3));
-  elm = LiLineAddP(line, 40, 10, 0);
-  EXPECT_TRUE(boLiElmSetClotoide(line, elm, 0, 100, 30));
-  elm = LiLineAddP(line, -50, -40, 0);
-  EXPECT_TRUE(boLiElmSetType(line, elm, kLiElmInvisible));
-  elm = LiLineAddP(line, 60, 70, 0);
-  EXPECT_TRUE(boLiElmSetType(line, elm, kLiElmStraightAlt));
-  elm = LiLineAddP(line, 61, 70, 0);
-  EXPECT_TRUE(boLiElmSetType(line, elm, 50));
-  LiLineAddP(line, 2.5000006, -0.0000001, 0);
+  const double points[][2] = {{0, 0},    {10, 0},    {20, 0},  {30, 10}, {35, 10},
+                              {40, 10},  {-50, -40}, {60, 70}, {61, 70}, {2.5000006, -0.0000001}};
+  for (const auto& point : points) LiLineAddP(line, point[0], point[1], 0);
+  EXPECT_TRUE(boLiElmSet2pArc(line, 0, 10, true));
+  EXPECT_TRUE(boLiElmSet2pArc(line, 1, -12.5, false));
+  EXPECT_TRUE(boLiElmSet3pArc(line, 2, 22.928932, 7.071068));
+  EXPECT_TRUE(boLiElmSetType(line, 3, 3));
+  EXPECT_TRUE(boLiElmSetClotoide(line, 4, 0, 100, 30));
+  EXPECT_TRUE(boLiElmSetType(line, 5, kLiElmInvisible));
+  EXPECT_TRUE(boLiElmSetType(line, 6, kLiElmStraightAlt));
+  EXPECT_TRUE(boLiElmSetType(line, 7, 50));
   return line;
 }
 
@@ -80,15 +73,15 @@ const std::string kEveryKindFile =
     "_FIELDVALUES Main;two\\nlines;\r\n"
     "GUID \r\n"
     "/XY\r\n"
-    "0 0 elmdata (first)\r\n"
-    "10 0 a2p 10 1\r\n"
-    "20 0 a2p -12.5\r\n"
-    "30 10 a3p\r\n"
+    "0 0 a2p 10 1 elmdata (first)\r\n"
+    "10 0 a2p -12.5\r\n"
+    "20 0 a3p\r\n"
     "22.928932 7.071068 elmdata (middle arc)\r\n"
-    "40 10 clot 0.000000 100.000000 30.000000\r\n"
-    "-50 -40 invis\r\n"
-    "60 70 elmdata (" + std::string(112, 'x') + "\r\n"
+    "35 10 clot 0.000000 100.000000 30.000000\r\n"
+    "40 10 invis\r\n"
+    "-50 -40 elmdata (" + std::string(110, 'x') + "\r\n"
     "!?\r\n"
+    "61 70\r\n"
     "2.500001 -0\r\n"
     "[END]\r\n";
 
@@ -129,7 +122,7 @@ std::vector<int> Types(const LiLine* line) {
 TEST(AsfLineRecord, EveryElementKindIsWrittenInItsForm) {
   OwnedLines lines(LiLinesCreate(0, 0));
   LiLine* line = MakeEveryKindLine(lines);
-  ElementTexts texts{{{0, "first"}, {3, "middle arc"}, {7, std::string(200, 'x')}}};
+  ElementTexts texts{{{0, "first"}, {2, "middle arc"}, {6, std::string(200, 'x')}}};
   FieldValues fields{{"Main", "two\r\nlines"}};
   RecordWriter writer(kAsfTypeLine, {"NAME", "NOTE"});
   EXPECT_TRUE(boAsfLineWriteElmData(writer.file, writer.section, line, boFieldValue, &fields,
@@ -153,29 +146,30 @@ TEST(AsfLineRecord, ReadingGivesTheLineBackLessWhatHasNoForm) {
   EXPECT_EQ(ReadValues(reader.file, reader.section),
             (std::vector<std::string>{"Main", "two\\nlines"}));
 
-  // The element of type 3 and the one without a form are gone; type 98
-  // reads as a straight.
+  // The element of type 3 and the one without a form are gone, so that the
+  // arc by three points ends in the point behind them; type 98 reads as a
+  // straight.
   std::vector<ReadElement> elements = Elements(line);
   ASSERT_EQ(elements.size(), 8u);
-  const int types[] = {0, kLiElmArc2p, kLiElmArc2p, kLiElmArc3p, kLiElmClothoid,
-                       kLiElmInvisible, 0, 0};
-  const double points[][2] = {{0, 0},  {10, 0},    {20, 0},  {30, 10},
-                              {40, 10}, {-50, -40}, {60, 70}, {2.500001, 0}};
+  const int types[] = {kLiElmArc2p,     kLiElmArc2p, kLiElmArc3p, kLiElmClothoid,
+                       kLiElmInvisible, 0,           0,           0};
+  const double points[][2] = {{0, 0},    {10, 0},    {20, 0},  {35, 10},
+                              {40, 10}, {-50, -40}, {61, 70}, {2.500001, 0}};
   for (size_t i = 0; i < elements.size(); ++i) {
     EXPECT_EQ(elements[i].iType, types[i]) << i;
     EXPECT_DOUBLE_EQ(elements[i].x, points[i][0]) << i;
     EXPECT_DOUBLE_EQ(elements[i].y, points[i][1]) << i;
   }
-  EXPECT_DOUBLE_EQ(dLiElmGetRadius(line, 1), 10);
-  EXPECT_TRUE(boLiElmIsLarge(line, 1));
-  EXPECT_DOUBLE_EQ(dLiElmGetRadius(line, 2), -12.5);
-  EXPECT_FALSE(boLiElmIsLarge(line, 2));
+  EXPECT_DOUBLE_EQ(dLiElmGetRadius(line, 0), 10);
+  EXPECT_TRUE(boLiElmIsLarge(line, 0));
+  EXPECT_DOUBLE_EQ(dLiElmGetRadius(line, 1), -12.5);
+  EXPECT_FALSE(boLiElmIsLarge(line, 1));
   ViPoint3d middle;
-  vLiElmGetArcMiddle(line, 3, &middle);
+  vLiElmGetArcMiddle(line, 2, &middle);
   EXPECT_DOUBLE_EQ(middle.x, 22.928932);
   EXPECT_DOUBLE_EQ(middle.y, 7.071068);
   double startRadius = -1, endRadius = -1, a = -1;
-  vLiElmGetClotoide(line, 4, &startRadius, &endRadius, &a);
+  vLiElmGetClotoide(line, 3, &startRadius, &endRadius, &a);
   EXPECT_EQ(startRadius, 0);
   EXPECT_EQ(endRadius, 100);
   EXPECT_EQ(a, 30);
@@ -183,7 +177,7 @@ TEST(AsfLineRecord, ReadingGivesTheLineBackLessWhatHasNoForm) {
   // The element data of the arc's middle line belongs to the arc; the cut
   // text has no ")".
   using Texts = std::vector<std::pair<LiElm, std::string>>;
-  EXPECT_EQ(read.texts, (Texts{{0, "first"}, {3, "middle arc"}, {6, std::string(112, 'x')}}));
+  EXPECT_EQ(read.texts, (Texts{{0, "first"}, {2, "middle arc"}, {5, std::string(110, 'x')}}));
   EXPECT_EQ(reader.Next(), -1);
 }
 

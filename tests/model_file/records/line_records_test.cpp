@@ -3,11 +3,14 @@
 // the older forms read.
 #include <gtest/gtest.h>
 
+#include <array>
+#include <cmath>
 #include <string>
 
 #include "geometry/line_measure.h"
 #include "road_model/chain_equations.h"
 #include "road_model/diff_altitudes.h"
+#include "road_model/line_chainage.h"
 #include "road_model/line_fields.h"
 #include "road_model/model_lines.h"
 #include "road_model/vertical_line.h"
@@ -28,10 +31,10 @@ ModelPtr MakeModel() {
   vRmLineSetCenterLine(main, true);
   vRmLineSetStartChain(main, 1000.0);
   LiLineAddP(main, 1000, 2000, 0);
-  LiLineAddP(main, 1100, 2000, 0);
-  LiElm arc = LiLineAddP(main, 1150, 2050, 0);
+  LiElm arc = LiLineAddP(main, 1100, 2000, 0);
+  LiElm clothoid = LiLineAddP(main, 1150, 2050, 0);
+  LiLineAddP(main, 1141, 2050, 0);
   EXPECT_TRUE(boLiElmSet2pArc(main, arc, 50, true));
-  LiElm clothoid = LiLineAddP(main, 1141, 2050, 0);
   EXPECT_TRUE(boLiElmSetClotoide(main, clothoid, 0, 100, 30));
   vLiElmSetText(main, arc, "bue (3/4)");
 
@@ -84,9 +87,9 @@ const std::string kLineBody = sCrLf({
     "GUID ",
     "/XY",
     "1000 2000",
-    "1100 2000",
-    "1150 2050 a2p 50 1 elmdata (bue (3/4))",
-    "1141 2050 clot 0.000000 100.000000 30.000000",
+    "1100 2000 a2p 50 1 elmdata (bue (3/4))",
+    "1150 2050 clot 0.000000 100.000000 30.000000",
+    "1141 2050",
     ":L 2",
     "_EXTENT 1000 1990 1101 1991 ",
     "_FIELDVALUES ;Kant\\; venstre;;-3.0105;",
@@ -190,6 +193,72 @@ TEST(LineRecords, SectionsAreWrittenByteForByteAndReadBack) {
 
   // And the same bytes once more.
   EXPECT_EQ(sWrittenModel(again.get()), written);
+}
+
+// A centre line as the host writes it, each piece's words on the line of the
+// point where the piece starts: a straight, a left quarter circle about
+// (100, 50), a right three-quarter circle about (150, 100) with its direction
+// flag, a half circle by three points about (250, 100), a clothoid from a
+// straight into radius 200 with A = 100 (50 m), an invisible move and a
+// straight with element data.
+const std::string kHostLineBody = sCrLf({
+    ":L 1",
+    "_EXTENT 0 0 410 150 ",
+    "_FIELDVALUES 1000.0000;Senterlinje;1;",
+    "GUID ",
+    "/XY",
+    "0 0",
+    "100 0 a2p 50",
+    "150 50 a2p -50 1",
+    "200 100 a3p",
+    "250 150",
+    "300 100 clot 0.000000 200.000000 100.000000",
+    "349.921931 102.081009 invis",
+    "400 0 elmdata (kum)",
+    "410 0",
+});
+
+TEST(LineRecords, AHostLineCarriesEachPieceOnItsStartPoint) {
+  const std::string bytes =
+      sModelHead({"DATAVERSION 13"}, {}) +
+      sCrLf({"[L_]", "_EXTENT 0 0 410 150 ", "_FIELDNAMES CHAIN;NAME;CL;", "[+L_]"}) +
+      kHostLineBody + "[END]\r\n";
+  ModelPtr model = ReadModel(bytes);
+  ASSERT_NE(model, nullptr);
+  const RmLine* line = RmLinesGetCenterLine(RmModelGetLines(model.get()));
+  ASSERT_NE(line, nullptr);
+  EXPECT_EQ(sBody(sWrittenModel(model.get()), "[+L_]"), kHostLineBody);
+
+  // Position and direction inside every piece, from the circles and the
+  // Fresnel series of the standard clothoid (x = 19.999200015,
+  // y = 0.133329524 at s = 20 for A = 100).
+  constexpr double pi = 3.141592653589793;
+  const double quarter = 25.0 * pi, large = 75.0 * pi, half = 50.0 * pi;
+  auto circle = [](double cx, double cy, double angle, bool left) {
+    return std::array<double, 3>{cx + 50.0 * std::cos(angle), cy + 50.0 * std::sin(angle),
+                                 angle + (left ? pi / 2.0 : -pi / 2.0)};
+  };
+  struct Probe {
+    double chain;
+    std::array<double, 3> expected;  // x, y, direction
+  };
+  const Probe probes[] = {
+      {1040.0, {40.0, 0.0, 0.0}},
+      {1100.0 + 10.0, circle(100.0, 50.0, -pi / 2.0 + 10.0 / 50.0, true)},
+      {1100.0 + quarter + 200.0, circle(150.0, 100.0, -pi / 2.0 - 200.0 / 50.0, false)},
+      {1100.0 + quarter + large + 30.0, circle(250.0, 100.0, pi - 30.0 / 50.0, false)},
+      {1100.0 + quarter + large + half + 20.0, {319.999200015, 100.133329524, 0.02}},
+      {1100.0 + quarter + large + half + 50.0 + 4.0, {404.0, 0.0, 0.0}},
+  };
+  for (const Probe& probe : probes) {
+    ViPoint2d point;
+    double direction = 0.0;
+    ASSERT_TRUE(boRmLinePointAtChain(line, probe.chain, &point, &direction, 0.0)) << probe.chain;
+    EXPECT_NEAR(point.x, probe.expected[0], 1e-5) << probe.chain;
+    EXPECT_NEAR(point.y, probe.expected[1], 1e-5) << probe.chain;
+    EXPECT_NEAR(std::remainder(direction - probe.expected[2], 2.0 * pi), 0.0, 1e-6)
+        << probe.chain;
+  }
 }
 
 TEST(LineRecords, AModelWithoutLinesOrVerticalDataLeavesTheSectionsOut) {
