@@ -126,6 +126,23 @@ bool boPlatformMoveFile(const char* from, const char* to);
 // true when the two paths name one file: the same file of the system when
 // both exist, else the same full path.
 bool boPlatformSameFile(const char* a, const char* b);
+// Makes written data last: returns once the bytes and size of the file at
+// `path` are on the disk, so that a power cut after it loses none of them.
+// False when the file cannot be opened or the system reports a failure; after
+// a crash such a file may hold anything. Here fsync; on Windows
+// FlushFileBuffers on a handle opened for writing.
+bool boPlatformFlushFile(const char* path);
+// The same for the names in a folder (the empty text: the current folder),
+// so that a file moved into it is found under its new name after a crash.
+// Here fsync on the folder opened for reading; on Windows a move that
+// writes through (MOVEFILE_WRITE_THROUGH) needs no more.
+bool boPlatformFlushDirectory(const char* directory);
+// The two flushes above go through a process-wide flush handler, told by
+// `directory` which of them asks. Installs `handler`; null restores the
+// default, the system's flush. Returns the handler installed before. Tests
+// install their own to watch the flushes or make them fail.
+using PlatformFlushHandler = bool (*)(const char* path, bool directory);
+PlatformFlushHandler pfnPlatformSetFlushHandler(PlatformFlushHandler handler);
 // Creates the missing folders of `directory`, the last one included.
 bool boPlatformCreateDirectories(const char* directory);
 // Creates a new, empty file `<directory>/<prefix>XXXXXX` with a unique name

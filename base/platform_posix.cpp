@@ -36,6 +36,18 @@ int iDefaultMessageHandler(const char* text, const char*, unsigned int type) {
 
 std::atomic<PlatformMessageHandler> messageHandler{&iDefaultMessageHandler};
 
+// ---- Flushes ----
+
+bool boDefaultFlush(const char* path, bool directory) {
+  int flags = O_RDONLY | O_CLOEXEC | (directory ? O_DIRECTORY : 0);
+  int descriptor = open(directory && !*path ? "." : path, flags);
+  if (descriptor < 0) return false;
+  bool flushed = fsync(descriptor) == 0;
+  return close(descriptor) == 0 && flushed;
+}
+
+std::atomic<PlatformFlushHandler> flushHandler{&boDefaultFlush};
+
 // ---- Windows-1252 ----
 
 // The characters of 0x80 to 0x9F; 0 where the code page leaves a hole.
@@ -316,6 +328,18 @@ bool boPlatformIsDirectory(const char* path) {
 }
 
 bool boPlatformDeleteFile(const char* path) { return path && unlink(path) == 0; }
+
+bool boPlatformFlushFile(const char* path) {
+  return path && *path && flushHandler.load()(path, false);
+}
+
+bool boPlatformFlushDirectory(const char* directory) {
+  return flushHandler.load()(directory ? directory : "", true);
+}
+
+PlatformFlushHandler pfnPlatformSetFlushHandler(PlatformFlushHandler handler) {
+  return flushHandler.exchange(handler ? handler : &boDefaultFlush);
+}
 
 bool boPlatformMoveFile(const char* from, const char* to) {
   if (!from || !to) return false;

@@ -33,12 +33,8 @@ struct Columns {
   double dNumber() {
     if (boAtEnd()) return 0.0;
     const char* after = nullptr;
-    bool minus = *Place == '-';
     double value = dParseNumber(Place, &after);
     vMoveTo(after);
-    // "-0" is 0, kept with its sign so that the line is written back as it
-    // was read.
-    if (value == 0.0 && minus) return -0.0;
     return value;
   }
   long lInteger() {

@@ -24,7 +24,8 @@ size_t uRmPointLineFormat(const RmPoint* point, char* buffer);
 // Reads the columns of a point line from `text` up to `end` (its
 // terminator) into the point: offset, height, PCODE (the bits above it
 // kept), radius and mark. A missing column reads as 0; a missing mark
-// clears it. "-0" reads as a zero that keeps its sign.
+// clears it. "-0" reads as a plain 0 and is written back as "0"; "-0.0"
+// reads as a zero with its sign.
 void vRmPointLineRead(const char* text, const char* end, RmPoint* point);
 
 // Prints `value` as "%.4f" does, then drops closing zeros and a bare point.

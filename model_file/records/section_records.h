@@ -34,12 +34,14 @@ void vRmMassLinesReadRecords(AsfFile* file, AsfSection* section, RmSectionSet* s
 
 // ---- The files of an older DATAVERSION ----
 
-// The last DATAVERSION of each older form.
+// The DATAVERSION of the old codes (that one alone: a negative version is
+// no version 0 and keeps its codes), and the last DATAVERSION of each older
+// form.
 inline constexpr int kRmOldCodesVersion = 0;
 inline constexpr int kRmRelockVersion = 2;
 inline constexpr int kRmUnplacedSectionsVersion = 3;
 
-// Up to DATAVERSION 0 the codes of section points had a group of one digit
+// At DATAVERSION 0 the codes of section points had a group of one digit
 // where the number stands now: 3.0005 was family 3, group 5.
 void vRmSectionSetConvertOldCodes(RmSectionSet* set);
 // Up to DATAVERSION 3 a cross section could come without its plan position:

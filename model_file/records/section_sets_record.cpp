@@ -282,7 +282,7 @@ void vRmCrossSectionsRead(AsfFile* file, AsfSection* section, RmModel* model) {
   if (set && !boRmSectionSetReadRecords(file, section, set)) vRmSectionSetDelete(&set);
   vRmModelSetCrossSections(model, set);
   if (!set) return;
-  if (model->DataVersion <= kRmOldCodesVersion) vRmSectionSetConvertOldCodes(set);
+  if (model->DataVersion == kRmOldCodesVersion) vRmSectionSetConvertOldCodes(set);
   // Locked sections of such files are to be rebuilt before they are locked
   // again; the rebuilding is the section builder's, and the model is marked
   // so that the next save writes them in the current form.
@@ -297,5 +297,5 @@ void vRmLongSectionsRead(AsfFile* file, AsfSection* section, RmModel* model) {
   if (set) set->Kind = kRmLongSections;
   if (set && !boRmSectionSetReadRecords(file, section, set)) vRmSectionSetDelete(&set);
   vRmModelSetLongSections(model, set);
-  if (set && model->DataVersion <= kRmOldCodesVersion) vRmSectionSetConvertOldCodes(set);
+  if (set && model->DataVersion == kRmOldCodesVersion) vRmSectionSetConvertOldCodes(set);
 }

@@ -142,6 +142,18 @@ TEST(Files, SameFileByIdentityOrByFullPath) {
   EXPECT_FALSE(boPlatformSameFile(path.c_str(), nullptr));
 }
 
+TEST(Files, FlushesReachFilesAndFoldersAndFailOnWhatIsNotThere) {
+  ScratchFolder folder;
+  std::string path = folder / "a.sfi";
+  vWriteWholeFile(path, "x");
+  EXPECT_TRUE(boPlatformFlushFile(path.c_str()));
+  EXPECT_TRUE(boPlatformFlushDirectory(folder.path().c_str()));
+  EXPECT_TRUE(boPlatformFlushDirectory(""));  // the current folder
+  EXPECT_FALSE(boPlatformFlushFile((folder / "missing.sfi").c_str()));
+  EXPECT_FALSE(boPlatformFlushFile(""));
+  EXPECT_FALSE(boPlatformFlushDirectory(path.c_str()));
+}
+
 TEST(SystemErrors, TextsOfCodes) {
   char text[256];
   EXPECT_TRUE(boSystemErrorText(ENOENT, text, sizeof text));

@@ -5,6 +5,7 @@
 
 #include <filesystem>
 #include <string>
+#include <vector>
 
 #include "base/file_times.h"
 #include "base/paths.h"
@@ -54,6 +55,34 @@ class FileSizeLimit {
   rlimit previous_{};
   void (*previousSignal_)(int);
   bool active_ = false;
+};
+
+// What each flush of a save found on the disk: the flushed file's bytes and
+// the target's at that moment.
+struct Flush {
+  bool directory;
+  std::string path, bytes, target;
+};
+std::vector<Flush> flushes;
+std::string flushTarget;
+bool flushFails = false;
+PlatformFlushHandler formerFlush = nullptr;
+
+bool boWatchFlush(const char* path, bool directory) {
+  flushes.push_back({directory, path, directory ? "" : sReadWholeFile(path),
+                     sReadWholeFile(flushTarget)});
+  return !flushFails && formerFlush(path, directory);
+}
+
+// Notes the flushes while it lives, and fails them or hands them on.
+struct FlushWatch {
+  FlushWatch(const std::string& target, bool fail) {
+    flushes.clear();
+    flushTarget = target;
+    flushFails = fail;
+    formerFlush = pfnPlatformSetFlushHandler(&boWatchFlush);
+  }
+  ~FlushWatch() { pfnPlatformSetFlushHandler(formerFlush); }
 };
 
 }  // namespace
@@ -224,6 +253,45 @@ TEST(ModelSave, ASaveThatCannotWriteLeavesTheOldFileAsItWas) {
   if (boFileExists("/dev/full")) {
     EXPECT_FALSE(boRmModelWrite(model.get(), "/dev/full"));
   }
+}
+
+TEST(ModelSave, TheTemporaryFileIsFlushedWholeBeforeItTakesTheTargetsPlace) {
+  ScratchFolder folder;
+  std::string path = folder / "veg.sfi";
+  vWriteWholeFile(path, "old content");
+  ModelPtr model = MarkedModel("Nor");
+  FlushWatch watch(path, false);
+  ASSERT_TRUE(boRmModelSave(model.get(), path.c_str()));
+
+  const std::string written = sWrittenModel(model.get());
+  ASSERT_EQ(flushes.size(), 2u);
+  const auto& file = flushes[0];
+  EXPECT_FALSE(file.directory);
+  EXPECT_EQ(file.path.rfind(folder / "$$$_", 0), 0u) << file.path;
+  EXPECT_EQ(file.bytes, written);
+  EXPECT_EQ(file.target, "old content");
+  // The folder follows the move.
+  const auto& directory = flushes[1];
+  EXPECT_TRUE(directory.directory);
+  EXPECT_EQ(directory.path, folder.path());
+  EXPECT_EQ(directory.target, written);
+}
+
+TEST(ModelSave, AFailedFlushLeavesTheOldFileAsItWasAndNoTemporaryFile) {
+  ScratchFolder folder;
+  std::string path = folder / "veg.sfi";
+  ModelPtr model = MarkedModel("Nor");
+  ASSERT_TRUE(boRmModelSave(model.get(), path.c_str()));
+  std::string before = sReadWholeFile(path);
+
+  vRmModelSetMarket(model.get(), "Swe");
+  vRmModelSetDirty(model.get(), true);
+  FlushWatch watch(path, true);
+  EXPECT_FALSE(boRmModelSave(model.get(), nullptr));
+  EXPECT_EQ(flushes.size(), 1u);
+  EXPECT_EQ(sReadWholeFile(path), before);
+  EXPECT_EQ(iTemporaryFiles(folder.path()), 0);
+  EXPECT_EQ(model->Dirty, 1);
 }
 
 TEST(ModelSave, ASaveToANewPathTakesTheNameEvenWhenItFails) {

@@ -53,7 +53,7 @@ const std::string kCrossSectionsBody = sCrLf({
     "OPPOSITEDIAGONAL 1",
     " -7.25 101.5 -20105",
     " -3 102 -10100 25.5",
-    " -0 100.5 0",
+    " 0 100.5 0",
     " 0 103.125 0 0 2",
     " 2.5 103 10100 -40 1",
     " 5 99.75 20100 0 3",
@@ -158,8 +158,6 @@ TEST(SectionRecords, AFileWithEverySectionFormReadsAndWritesBackByteForByte) {
   ASSERT_TRUE(full);
   EXPECT_EQ(full->Code, 0x01002774u);
   EXPECT_FLOAT_EQ(full->Radius, -40.0f);
-  const RmPoint* minusZero = RmPointFindNearX(layer, 0.0);
-  EXPECT_EQ(minusZero->X, 0.0f);
 
   const RmMass* mass = RmMassFind(first, 3);
   ASSERT_TRUE(mass);
@@ -224,6 +222,27 @@ TEST(SectionRecords, PointLinesChooseTheirFormByMarkAndRadius) {
   EXPECT_EQ(point.X, 7.0f);
   EXPECT_EQ(point.Z, 0.0f);
   EXPECT_EQ(iRmPointGetPcode(&point), 0);
+}
+
+TEST(SectionRecords, AMinusZeroReadsAsZeroUnlessAPointFollows) {
+  struct Case {
+    const char* read;
+    const char* written;
+  };
+  const Case cases[] = {
+      {" -0 100 0", " 0 100 0"},
+      {" 3 -0 0 -0 2", " 3 0 0 0 2"},
+      // "-0.0" is the negative fraction 0.
+      {" -0.0 100 0", " -0 100 0"},
+  };
+  for (const Case& c : cases) {
+    ModelPtr model = ReadModel(sFileWith("CROSSECTIONS", sCrLf({":CHAIN 10", "LAYER 12", c.read})));
+    ASSERT_TRUE(model) << c.read;
+    EXPECT_EQ(sSectionBody(sWrittenModel(model.get()), "CROSSECTIONS"),
+              sCrLf({":CHAIN 10.0000", "CLRANG 0.00000 0.00000 0.000 0.000 0.000000 0",
+                     "LAYER 12", c.written}))
+        << c.read;
+  }
 }
 
 TEST(SectionRecords, CoordinatesPrintAsFourDecimalsOfPrintfTrimmed) {
@@ -333,6 +352,26 @@ TEST(SectionRecords, OlderFilesGetNewCodesAndAPlaceOnTheCentreLine) {
   EXPECT_TRUE(RmPointFindCode(RmSectionLayersGetFirst(RmSectionsGetFirst(kept)), 30005));
   EXPECT_EQ(RmSectionsGetFirst(kept)->ClX, 0.0);
   EXPECT_FALSE(current->Dirty);
+}
+
+TEST(SectionRecords, OnlyVersionZeroRewritesTheOldCodesOfBothSectionSets) {
+  struct Case {
+    const char* version;
+    int code;
+  };
+  const Case cases[] = {{"0", 30500}, {"-1", 30005}, {"1", 30005}};
+  const std::string body = sCrLf({":CHAIN 30", "LAYER 11", " 0 1 30005"});
+  for (const Case& c : cases) {
+    for (const char* name : {"CROSSECTIONS", "LONGSECTIONS"}) {
+      ModelPtr model = ReadModel(sFileWith(name, body, c.version));
+      ASSERT_TRUE(model) << c.version;
+      const RmSectionSet* set = std::string(name) == "CROSSECTIONS"
+                                    ? RmModelGetCrossSections(model.get())
+                                    : RmModelGetLongSections(model.get());
+      const RmLayer* layer = RmSectionLayersGetFirst(RmSectionsGetFirst(set));
+      EXPECT_EQ(iRmPointGetPcode(RmPointsGetFirst(layer)), c.code) << name << ' ' << c.version;
+    }
+  }
 }
 
 TEST(SectionRecords, MassOutlinesFindTheirSectionWithinAMillimetreAndTheirMassById) {
