@@ -4,11 +4,11 @@
 #include <cstdint>
 #include <random>
 
-#include "model_file/records/model_file.h"
-#include "road_model/model.h"
-#include "road_model/model_sections.h"
-#include "road_model/pcode.h"
-#include "road_model/section_set.h"
+#include "model_file/records/frame/model_file.h"
+#include "road_model/model/model.h"
+#include "road_model/model/model_sections.h"
+#include "road_model/codes/pcode.h"
+#include "road_model/sections/section_set.h"
 
 namespace {
 

@@ -19,8 +19,8 @@
 #include <string>
 
 #include "bench/bench_model_file.h"
-#include "model_file/records/model_file.h"
-#include "road_model/model.h"
+#include "model_file/records/frame/model_file.h"
+#include "road_model/model/model.h"
 
 namespace {
 

@@ -28,19 +28,23 @@ function(kvrvips_add_folder folder)
 endfunction()
 
 # kvrvips_folder_library(<target> [DEPENDS <targets>...]): a static library of
-# every .cpp file of the calling folder (not of its subfolders).
+# every .cpp file of the calling folder and its subfolders, which split the
+# folder by concern.
 function(kvrvips_folder_library target)
   cmake_parse_arguments(ARG "" "" "DEPENDS" ${ARGN})
-  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
+  file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
   add_library(${target} STATIC ${sources})
   target_link_libraries(${target} PUBLIC kvrvips_options ${ARG_DEPENDS})
 endfunction()
 
 # kvrvips_test_suite(<name> [DEPENDS <targets>...]): one GoogleTest program of
-# every .cpp file of the calling test folder, registered with CTest.
+# every .cpp file of the calling test folder and its subfolders (which mirror
+# the source folders), registered with CTest. Subfolders named tools hold
+# helper programs of their own and are left out.
 function(kvrvips_test_suite name)
   cmake_parse_arguments(ARG "" "" "DEPENDS" ${ARGN})
-  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
+  file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
+  list(FILTER sources EXCLUDE REGEX "^${CMAKE_CURRENT_SOURCE_DIR}/tools/")
   if(NOT sources)
     return()
   endif()

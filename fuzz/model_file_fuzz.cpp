@@ -6,8 +6,8 @@
 
 #include "base/platform.h"
 #include "model_file/container/asf_file.h"
-#include "model_file/records/model_file.h"
-#include "road_model/model.h"
+#include "model_file/records/frame/model_file.h"
+#include "road_model/model/model.h"
 
 namespace {
 

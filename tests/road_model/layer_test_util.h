@@ -7,9 +7,9 @@
 #include <memory>
 #include <vector>
 
-#include "road_model/layer.h"
-#include "road_model/model.h"
-#include "road_model/section.h"
+#include "road_model/sections/layer.h"
+#include "road_model/model/model.h"
+#include "road_model/sections/section.h"
 
 struct ModelDeleter {
   void operator()(RmModel* model) const { vRmModelDelete(model); }

@@ -9,8 +9,8 @@
 #include <gtest/gtest.h>
 
 #include "design_model/design_model_builder.h"
-#include "model_file/records/model_file.h"
-#include "road_model/model.h"
+#include "model_file/records/frame/model_file.h"
+#include "road_model/model/model.h"
 
 struct ModelDeleter {
   void operator()(RmModel* model) const { vRmModelDelete(model); }

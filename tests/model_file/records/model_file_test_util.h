@@ -10,8 +10,8 @@
 
 #include "base/platform.h"
 #include "model_file/container/asf_file.h"
-#include "model_file/records/model_file.h"
-#include "road_model/model.h"
+#include "model_file/records/frame/model_file.h"
+#include "road_model/model/model.h"
 
 struct ModelDeleter {
   void operator()(RmModel* model) const { vRmModelDelete(model); }

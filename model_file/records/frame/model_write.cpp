@@ -1,0 +1,53 @@
+// Writing a road model file: the head keys, then every record family that
+// the model has something for, in the order of the family table.
+#include <cstdio>
+#include <vector>
+
+#include "model_file/container/asf_file.h"
+#include "model_file/records/frame/model_file.h"
+#include "model_file/records/frame/record_families.h"
+#include "road_model/model/model.h"
+
+namespace {
+
+void vSetHeadKeys(AsfFile* file, const RmModel* model) {
+  char version[16];
+  std::snprintf(version, sizeof version, "%d", kRmDataVersion);
+  vAsfKeySet(file, nullptr, "DATAVERSION", version);
+  if (model->Market[0]) vAsfKeySet(file, nullptr, "MARKET", model->Market);
+  if (model->Guid && *model->Guid) vAsfKeySet(file, nullptr, "GUID", model->Guid);
+}
+
+}  // namespace
+
+bool boRmModelWriteFile(AsfFile* file, const RmModel* model) {
+  if (!file || !model) return false;
+  vAsfFileSetType(file, kRmModelFileType);
+  vSetHeadKeys(file, model);
+
+  std::span<const RmRecordFamily> families = RmRecordFamiliesInWriteOrder();
+  std::vector<AsfSection*> sections(families.size(), nullptr);
+  for (size_t i = 0; i < families.size(); ++i) {
+    const RmRecordFamily& family = families[i];
+    if (!family.Write || (family.HasContent && !family.HasContent(model))) continue;
+    sections[i] = AsfSectionAdd(file, family.SectionName, family.SectionType);
+    if (family.Prepare) family.Prepare(file, sections[i], model);
+  }
+  if (!boAsfFileWriteHead(file)) return false;
+  for (size_t i = 0; i < families.size(); ++i) {
+    if (sections[i]) families[i].Write(file, sections[i], model);
+  }
+  return !boAsfFileWriteFailed(file);
+}
+
+bool boRmModelWrite(const RmModel* model, const char* path) {
+  if (!model || !path || !*path) return false;
+  AsfFile* file = AsfFileCreate(path);
+  if (!file) return false;
+  bool written = boRmModelWriteFile(file, model);
+  // The end of the file and the flush of what is still buffered count too:
+  // a file without its end would be refused by every later load.
+  written = boAsfFileFinish(file) && written;
+  vAsfFileClose(file);
+  return written;
+}

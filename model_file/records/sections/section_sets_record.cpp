@@ -1,0 +1,301 @@
+// CROSSECTIONS and LONGSECTIONS: one group per section, from ":CHAIN" to the
+// next, with the section's plan position, clipping and tilt (cross sections
+// only), its masses and its layers with their points.
+//
+// This is the bulk of a model file: a large road has hundreds of thousands
+// of point lines. They are assembled and taken apart in place, without an
+// allocation per line; the points come from the set's pool.
+#include <cmath>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+
+#include "base/numbers.h"
+#include "model_file/container/asf_file.h"
+#include "model_file/records/frame/record_line.h"
+#include "model_file/records/sections/section_point_line.h"
+#include "model_file/records/sections/section_records.h"
+#include "road_model/model/model.h"
+#include "road_model/model/model_sections.h"
+#include "road_model/sections/section_placing.h"
+#include "road_model/sections/section_set.h"
+
+namespace {
+
+// A tunnel rotation this close to 0 is none.
+constexpr double kNoRotation = 0.00001;
+
+// ---- Writing ----
+
+// "%.4f" (or another format of one number) with closing zeros and a bare
+// point dropped.
+const char* sTrimmed(char* buffer, size_t size, const char* format, double value) {
+  std::snprintf(buffer, size, format, value);
+  return sTrimZeros(buffer);
+}
+
+void vWritePlacement(AsfFile* file, AsfSection* out, const RmSection* section) {
+  if (boRmSectionGetFlag(section, kRmSectionLeftClip)) {
+    boRecordWrite(file, out, "LCLIPDIST %.3f", double(section->LClipDist));
+  }
+  if (boRmSectionGetFlag(section, kRmSectionRightClip)) {
+    boRecordWrite(file, out, "RCLIPDIST %.3f", double(section->RClipDist));
+  }
+  if (section->Flags != 0) boRecordWrite(file, out, "FLAGS %u", section->Flags);
+  if (section->ClipInCorner != 0) {
+    boRecordWrite(file, out, "CLIPINCORNER %d", section->ClipInCorner);
+  }
+  char skew[20];
+  boRecordWrite(file, out, "CLRANG %.5f %.5f %.3f %.3f %.6lf %s", section->ClX, section->ClY,
+                double(section->LeftDist), double(section->RightDist), section->Direction,
+                sTrimmed(skew, sizeof skew, "%.6lf", section->Skew));
+  if (boRmSectionGetFlag(section, kRmSectionTilted)) {
+    boRecordWrite(file, out, "CLTILT %.8f %.5f", section->TiltSlope, section->TiltHeight);
+  }
+  double rotation = section->TunnelRotation;
+  if (!(std::fabs(rotation) < kNoRotation) && boIsPresent(rotation)) {
+    boRecordWrite(file, out, "TUNNELROTATION %.3f", rotation);
+  }
+}
+
+void vWriteMasses(AsfFile* file, AsfSection* out, const RmSection* section) {
+  const RmMass* mass = RmSectionMassesGetFirst(section);
+  if (!mass) return;
+  boRecordWrite(file, out, "MASS");
+  for (; mass; mass = mass->Next) {
+    char area[64];
+    char offset[64];
+    boRecordWrite(file, out, " %d %s %s", mass->MassId,
+                  sTrimmed(area, sizeof area, "%.4f", mass->Area),
+                  sTrimmed(offset, sizeof offset, "%.4f", mass->CentroidOffset));
+  }
+}
+
+void vWriteBuildInfo(AsfFile* file, AsfSection* out, const RmLayer* layer) {
+  const RmLayerBuildInfo* info = layer->BuildInfo;
+  if (!info) return;
+  if (info->BuildMethod >= 1) boRecordWrite(file, out, "BUILDMETHOD %d", info->BuildMethod);
+  if (info->InterMethod >= 1) boRecordWrite(file, out, "INTERMETHOD %d", info->InterMethod);
+  if (info->BuildMethod == 1 && info->BlockName && info->BlockName[0]) {
+    boRecordWrite(file, out, "BLOCKNAME %s", info->BlockName);
+  }
+  if (info->OppositeDiagonal == 1) boRecordWrite(file, out, "OPPOSITEDIAGONAL %d", 1);
+}
+
+void vWriteLayer(AsfFile* file, AsfSection* out, const RmLayer* layer) {
+  boRecordWrite(file, out, "LAYER %u", static_cast<unsigned>(iRmLayerIdToFile(layer->Id)));
+  vWriteBuildInfo(file, out, layer);
+  char line[kRmPointLineSize];
+  for (const RmPoint* point = RmPointsGetFirst(layer); point; point = point->Next) {
+    size_t length = uRmPointLineFormat(point, line);
+    boAsfSectionWriteLine(file, out, line, length);
+  }
+}
+
+void vWriteSection(AsfFile* file, AsfSection* out, const RmSection* section, bool crossSection) {
+  boRecordWrite(file, out, ":CHAIN %.4lf", section->Chain);
+  if (crossSection) vWritePlacement(file, out, section);
+  vWriteMasses(file, out, section);
+  for (const RmLayer* layer = RmSectionLayersGetFirst(section); layer; layer = layer->Next) {
+    vWriteLayer(file, out, layer);
+  }
+}
+
+// ---- Reading ----
+
+// What the lines of a section group are read as.
+enum class Reading {
+  kSection,  // keywords of the section
+  kLayer,    // build info and point lines of the layer read last
+  kMass,     // rows of masses
+};
+
+struct SetReader {
+  RmSectionSet* Set;
+  RmSection* Section;  // null before the first ":CHAIN" and after a failed one
+  RmLayer* Layer;
+  Reading State;
+};
+
+bool boIs(const char* keyword, const char* name) { return std::strcmp(keyword, name) == 0; }
+
+// The three plan points of CLRPOINTS: origin, left end, right end.
+void vReadPlanPoints(RecordLine* line, RmSection* section) {
+  section->ClX = dRecordNumber(line);
+  section->ClY = dRecordNumber(line);
+  section->LeftEnd[0] = dRecordNumber(line);
+  section->LeftEnd[1] = dRecordNumber(line);
+  section->RightEnd[0] = dRecordNumber(line);
+  section->RightEnd[1] = dRecordNumber(line);
+  section->LeftDist = static_cast<float>(
+      std::hypot(section->LeftEnd[0] - section->ClX, section->LeftEnd[1] - section->ClY));
+  section->RightDist = static_cast<float>(
+      std::hypot(section->RightEnd[0] - section->ClX, section->RightEnd[1] - section->ClY));
+  section->Direction = std::atan2(section->RightEnd[1] - section->LeftEnd[1],
+                                  section->RightEnd[0] - section->LeftEnd[0]);
+}
+
+void vReadAngles(RecordLine* line, RmSection* section) {
+  section->ClX = dRecordNumber(line);
+  section->ClY = dRecordNumber(line);
+  section->LeftDist = static_cast<float>(dRecordNumber(line));
+  section->RightDist = static_cast<float>(dRecordNumber(line));
+  section->Direction = dRecordNumber(line);
+  section->Skew = dRecordNumber(line);
+  vRmSectionUpdateEnds(section);
+}
+
+// LAYER: the file's number, read as an unsigned decimal.
+void vStartLayer(SetReader* reader, RecordLine* line) {
+  boRecordAtEnd(line);
+  unsigned long number = std::strtoul(line->Cursor, nullptr, 10);
+  RmLayerId id = RmLayerIdFromFile(static_cast<int>(number));
+  reader->Layer = RmLayerAdd(reader->Section, id);
+  reader->State = reader->Layer ? Reading::kLayer : Reading::kSection;
+}
+
+// A keyword of the layer's build info; false for any other keyword.
+bool boReadBuildInfo(RmLayer* layer, const char* keyword, RecordLine* line) {
+  if (boIs(keyword, "BUILDMETHOD")) {
+    vRmLayerSetBuildMethod(layer, iRecordInteger(line, 1));
+  } else if (boIs(keyword, "INTERMETHOD")) {
+    vRmLayerSetInterMethod(layer, iRecordInteger(line, 1));
+  } else if (boIs(keyword, "BLOCKNAME")) {
+    vRmLayerSetBlockName(layer, sRecordToken(line));
+  } else if (boIs(keyword, "OPPOSITEDIAGONAL")) {
+    vRmLayerSetOppositeDiagonal(layer, iRecordInteger(line, 0) != 0);
+  } else {
+    return false;
+  }
+  return true;
+}
+
+void vReadSectionKeyword(SetReader* reader, const char* keyword, RecordLine* line) {
+  RmSection* section = reader->Section;
+  if (boIs(keyword, "LAYER")) {
+    vStartLayer(reader, line);
+  } else if (boIs(keyword, "MASS")) {
+    reader->State = Reading::kMass;
+  } else if (boIs(keyword, "CLRANG")) {
+    vReadAngles(line, section);
+  } else if (boIs(keyword, "FLAGS")) {
+    section->Flags = static_cast<uint32_t>(iRecordInteger(line));
+  } else if (boIs(keyword, "LCLIPDIST")) {
+    section->LClipDist = static_cast<float>(dRecordNumber(line));
+    vRmSectionSetFlag(section, kRmSectionLeftClip, true);
+  } else if (boIs(keyword, "RCLIPDIST")) {
+    section->RClipDist = static_cast<float>(dRecordNumber(line));
+    vRmSectionSetFlag(section, kRmSectionRightClip, true);
+  } else if (boIs(keyword, "CLIPINCORNER")) {
+    section->ClipInCorner = iRecordInteger(line);
+  } else if (boIs(keyword, "CLTILT")) {
+    section->TiltSlope = dRecordNumber(line);
+    section->TiltHeight = dRecordNumber(line);
+  } else if (boIs(keyword, "TUNNELROTATION")) {
+    section->TunnelRotation = dRecordNumber(line);
+  } else if (boIs(keyword, "LOCKED")) {
+    vRmSectionSetFlag(section, kRmSectionLocked, iRecordInteger(line) != 0);
+  } else if (boIs(keyword, "CLRPOINTS")) {
+    vReadPlanPoints(line, section);
+  }
+}
+
+void vReadPointLine(RmLayer* layer, const char* text) {
+  RmPoint* point = RmPointAddBefore(layer, nullptr);
+  if (point) vRmPointLineRead(text, text + std::strlen(text), point);
+}
+
+void vReadMassRow(RmSection* section, RecordLine* line) {
+  RmMass* mass = RmMassAdd(section, iRecordInteger(line));
+  if (!mass) return;
+  mass->Area = dRecordNumber(line);
+  mass->CentroidOffset = dRecordNumber(line);
+}
+
+}  // namespace
+
+void vRmSectionSetWriteRecords(AsfFile* file, AsfSection* section, const RmSectionSet* set) {
+  if (!set) return;
+  bool crossSections = set->Kind == kRmCrossSections;
+  for (const RmSection* walk = RmSectionsGetFirst(set); walk; walk = walk->Next) {
+    vWriteSection(file, section, walk, crossSections);
+  }
+}
+
+bool boRmSectionSetReadRecords(AsfFile* file, AsfSection* section, RmSectionSet* set) {
+  if (!set) return false;
+  SetReader reader{set, nullptr, nullptr, Reading::kSection};
+  RecordLine line;
+  const char* text = nullptr;
+  size_t size = 0;
+  while (boAsfSectionNextLine(file, section, &text, &size)) {
+    if (boRecordIsRow(text)) {
+      // Rows belong to the layer or the mass list read last.
+      if (reader.State == Reading::kLayer) {
+        vReadPointLine(reader.Layer, text);
+      } else if (reader.State == Reading::kMass) {
+        vRecordLineStart(&line, text);
+        vReadMassRow(reader.Section, &line);
+      }
+      continue;
+    }
+    vRecordLineStart(&line, text);
+    const char* keyword = sRecordToken(&line);
+    if (reader.State == Reading::kLayer && boReadBuildInfo(reader.Layer, keyword, &line)) {
+      continue;
+    }
+    reader.State = Reading::kSection;
+    if (!keyword[0]) continue;
+    if (boIs(keyword, ":GROUPEND")) break;
+    if (boIs(keyword, ":CHAIN")) {
+      // A section that cannot be made takes the lines up to the next ":CHAIN".
+      reader.Section = RmSectionAdd(set, nullptr, dRecordNumber(&line));
+      reader.Layer = nullptr;
+      continue;
+    }
+    if (reader.Section) vReadSectionKeyword(&reader, keyword, &line);
+  }
+  return true;
+}
+
+// ---- The families ----
+
+bool boRmCrossSectionsPresent(const RmModel* model) {
+  return RmSectionsGetFirst(RmModelGetCrossSections(model)) != nullptr;
+}
+
+void vRmCrossSectionsWrite(AsfFile* file, AsfSection* section, const RmModel* model) {
+  vRmSectionSetWriteRecords(file, section, RmModelGetCrossSections(model));
+}
+
+bool boRmLongSectionsPresent(const RmModel* model) {
+  return RmSectionsGetFirst(RmModelGetLongSections(model)) != nullptr;
+}
+
+void vRmLongSectionsWrite(AsfFile* file, AsfSection* section, const RmModel* model) {
+  vRmSectionSetWriteRecords(file, section, RmModelGetLongSections(model));
+}
+
+void vRmCrossSectionsRead(AsfFile* file, AsfSection* section, RmModel* model) {
+  RmSectionSet* set = RmSectionSetCreate();
+  if (set && !boRmSectionSetReadRecords(file, section, set)) vRmSectionSetDelete(&set);
+  vRmModelSetCrossSections(model, set);
+  if (!set) return;
+  if (model->DataVersion == kRmOldCodesVersion) vRmSectionSetConvertOldCodes(set);
+  // Locked sections of such files are to be rebuilt before they are locked
+  // again; the rebuilding is the section builder's, and the model is marked
+  // so that the next save writes them in the current form.
+  if (model->DataVersion <= kRmRelockVersion && boRmSectionSetHasLocked(set)) {
+    vRmModelSetDirty(model, true);
+  }
+  if (model->DataVersion <= kRmUnplacedSectionsVersion) vRmSectionSetPlaceUnplaced(set, model);
+}
+
+void vRmLongSectionsRead(AsfFile* file, AsfSection* section, RmModel* model) {
+  RmSectionSet* set = RmSectionSetCreate();
+  if (set) set->Kind = kRmLongSections;
+  if (set && !boRmSectionSetReadRecords(file, section, set)) vRmSectionSetDelete(&set);
+  vRmModelSetLongSections(model, set);
+  if (set && model->DataVersion == kRmOldCodesVersion) vRmSectionSetConvertOldCodes(set);
+}

@@ -1,0 +1,309 @@
+#include "road_model/model/model_parts.h"
+
+#include <cstddef>
+#include <type_traits>
+
+#include "road_model/model/adm_data.h"
+#include "road_model/model/hyperlinks.h"
+#include "road_model/model/model.h"
+#include "road_model/model/model_lines.h"
+#include "road_model/model/model_sections.h"
+#include "road_model/params/road_dim_params.h"
+#include "road_model/params/sect_params.h"
+#include "road_model/params/sect_triangulation_params.h"
+#include "road_model/sections/section_set.h"
+
+namespace {
+
+// How a row of the table differs from a plain one.
+enum PartOptions : int {
+  kPlain = 0,
+  kCreatedAtInit = 1,         // a new model has the object
+  kCommitsAfterSettings = 2,  // committed after the pending settings
+};
+
+// The operations of one slot of the model, made from the slot's members and
+// the create, delete and copy operations of its object type. `Pending` is
+// nullptr for a slot without a pending form.
+template <auto Committed, auto Pending, auto Create, auto Delete, auto Copy>
+struct Slot {
+  using Object = std::remove_pointer_t<decltype(Create())>;
+  static constexpr bool kHasPending = !std::is_same_v<decltype(Pending), std::nullptr_t>;
+
+  static Object* Duplicate(const Object* source) {
+    if (!source) return nullptr;
+    Object* copy = Create();
+    if (copy) Copy(copy, source);
+    return copy;
+  }
+
+  static void Replace(Object** slot, Object* object) {
+    if (*slot == object) return;
+    Delete(slot);
+    *slot = object;
+  }
+
+  static void Init(RmModel* model) { Replace(&(model->*Committed), Create()); }
+
+  static void Release(RmModel* model) { Delete(&(model->*Committed)); }
+
+  static void DiscardPending(RmModel* model) {
+    if constexpr (kHasPending) Delete(&(model->*Pending));
+  }
+
+  static void Commit(RmModel* model) {
+    if constexpr (kHasPending) {
+      Object*& pending = model->*Pending;
+      if (!pending) return;
+      Replace(&(model->*Committed), pending);
+      pending = nullptr;
+      vRmModelSetDirty(model, true);
+    }
+  }
+
+  static Object* Prepare(RmModel* model) {
+    if constexpr (kHasPending) {
+      Object*& pending = model->*Pending;
+      if (!pending) {
+        pending = Create();
+        if (pending && model->*Committed) Copy(pending, model->*Committed);
+      }
+      return pending;
+    }
+    return nullptr;
+  }
+
+  static void CopySlots(RmModel* target, const RmModel* source, bool withPending) {
+    Replace(&(target->*Committed), Duplicate(source->*Committed));
+    if constexpr (kHasPending) {
+      if (withPending) Replace(&(target->*Pending), Duplicate(source->*Pending));
+    }
+  }
+
+  static constexpr RmModelPart Row(int options = kPlain) {
+    return RmModelPart{(options & kCreatedAtInit) ? Init : nullptr,
+                       Release,
+                       kHasPending ? DiscardPending : nullptr,
+                       kHasPending ? Commit : nullptr,
+                       CopySlots,
+                       (options & kCommitsAfterSettings) != 0};
+  }
+};
+
+using AdmDataSlot =
+    Slot<&RmModel::AdmData, nullptr, RmAdmDataCreate, vRmAdmDataDelete, vRmAdmDataCopy>;
+using HyperlinksSlot = Slot<&RmModel::Hyperlinks, nullptr, RmHyperlinksCreate,
+                            vRmHyperlinksDelete, vRmHyperlinksCopy>;
+using SectParamsSlot = Slot<&RmModel::SectParams, &RmModel::SectParamsPending,
+                            RmSectParamsCreate, vRmSectParamsDelete, vRmSectParamsCopy>;
+using SectTriangulationParamsSlot =
+    Slot<&RmModel::SectTriangulationParams, nullptr, RmSectTriangulationParamsCreate,
+         vRmSectTriangulationParamsDelete, vRmSectTriangulationParamsCopy>;
+// A section set is copied whole, every layer with it.
+void vCopyWholeSectionSet(RmSectionSet* to, const RmSectionSet* from) {
+  vRmSectionSetCopy(to, from, kRmAllLayers);
+}
+using CrossSectionsSlot = Slot<&RmModel::CrossSections, &RmModel::CrossSectionsPending,
+                               RmSectionSetCreate, vRmSectionSetDelete, vCopyWholeSectionSet>;
+using LongSectionsSlot = Slot<&RmModel::LongSections, &RmModel::LongSectionsPending,
+                              RmSectionSetCreate, vRmSectionSetDelete, vCopyWholeSectionSet>;
+using RoadDimParamsSlot = Slot<&RmModel::RoadDimParams, &RmModel::RoadDimParamsPending,
+                               RmRoadDimParamsCreate, vRmRoadDimParamsDelete,
+                               vRmRoadDimParamsCopy>;
+
+// One row per sub-object type, in release order. The model's full order is
+// AdmData, Hyperlinks, LayerNames, CSectMassTypes, LSectMassTypes,
+// CSectAnnotationTypes, LSectAnnotationTypes (both committed after the
+// settings), Lines, SectParams, SectTriangulationParams, CrossSections,
+// LongSections, RoadDimParams, NrmParams, ChainData, SideBoundaries,
+// SurfaceBorderLines, TunnelData, TunnelParamData, SurfGen,
+// RoadClassParameters, TunnelBlocks (made by init), DitchParamData; each
+// type takes its place here when it exists.
+constexpr RmModelPart kParts[] = {
+    AdmDataSlot::Row(),
+    HyperlinksSlot::Row(),
+    // Plan lines point back at the model that holds them, so their slot has
+    // operations of its own (road_model/model_lines.h).
+    RmModelPart{nullptr, vRmModelReleaseLines, vRmModelDiscardLines, vRmModelCommitLines,
+                vRmModelCopyLines, false},
+    SectParamsSlot::Row(kCreatedAtInit),
+    SectTriangulationParamsSlot::Row(),
+    CrossSectionsSlot::Row(),
+    LongSectionsSlot::Row(),
+    RoadDimParamsSlot::Row(),
+};
+
+}  // namespace
+
+std::span<const RmModelPart> RmModelParts() { return kParts; }
+
+// ---- Typed access to the slots ----
+
+RmAdmData* RmModelGetAdmData(const RmModel* model) { return model ? model->AdmData : nullptr; }
+
+void vRmModelSetAdmData(RmModel* model, RmAdmData* data) {
+  if (model) AdmDataSlot::Replace(&model->AdmData, data);
+}
+
+RmHyperlinks* RmModelGetHyperlinks(const RmModel* model) {
+  return model ? model->Hyperlinks : nullptr;
+}
+
+void vRmModelSetHyperlinks(RmModel* model, RmHyperlinks* links) {
+  if (model) HyperlinksSlot::Replace(&model->Hyperlinks, links);
+}
+
+RmSectTriangulationParams* RmModelGetSectTriangulationParams(const RmModel* model) {
+  return model ? model->SectTriangulationParams : nullptr;
+}
+
+void vRmModelSetSectTriangulationParams(RmModel* model, RmSectTriangulationParams* params) {
+  if (model) SectTriangulationParamsSlot::Replace(&model->SectTriangulationParams, params);
+}
+
+RmSectParams* RmModelGetSectParams(const RmModel* model) {
+  return model ? model->SectParams : nullptr;
+}
+
+void vRmModelSetSectParams(RmModel* model, RmSectParams* params) {
+  if (model) SectParamsSlot::Replace(&model->SectParams, params);
+}
+
+RmSectParams* RmModelGetSectParamsPending(const RmModel* model) {
+  return model ? model->SectParamsPending : nullptr;
+}
+
+RmSectParams* RmModelGetSectParamsEffective(const RmModel* model) {
+  if (!model) return nullptr;
+  return model->SectParamsPending ? model->SectParamsPending : model->SectParams;
+}
+
+RmSectParams* RmModelPrepareSectParams(RmModel* model) {
+  return model ? SectParamsSlot::Prepare(model) : nullptr;
+}
+
+void vRmModelCommitSectParams(RmModel* model) {
+  if (model) SectParamsSlot::Commit(model);
+}
+
+void vRmModelDiscardSectParams(RmModel* model) {
+  if (model) SectParamsSlot::DiscardPending(model);
+}
+
+RmRoadDimParams* RmModelGetRoadDimParams(const RmModel* model) {
+  return model ? model->RoadDimParams : nullptr;
+}
+
+void vRmModelSetRoadDimParams(RmModel* model, RmRoadDimParams* params) {
+  if (model) RoadDimParamsSlot::Replace(&model->RoadDimParams, params);
+}
+
+RmRoadDimParams* RmModelGetRoadDimParamsPending(const RmModel* model) {
+  return model ? model->RoadDimParamsPending : nullptr;
+}
+
+RmRoadDimParams* RmModelGetRoadDimParamsEffective(const RmModel* model) {
+  if (!model) return nullptr;
+  return model->RoadDimParamsPending ? model->RoadDimParamsPending : model->RoadDimParams;
+}
+
+RmRoadDimParams* RmModelPrepareRoadDimParams(RmModel* model) {
+  return model ? RoadDimParamsSlot::Prepare(model) : nullptr;
+}
+
+void vRmModelCommitRoadDimParams(RmModel* model) {
+  if (model) RoadDimParamsSlot::Commit(model);
+}
+
+void vRmModelDiscardRoadDimParams(RmModel* model) {
+  if (model) RoadDimParamsSlot::DiscardPending(model);
+}
+
+// ---- The section sets ----
+
+namespace {
+
+// A set handed to a slot carries the slot's kind.
+void vStampKind(RmSectionSet* set, int32_t kind) {
+  if (set) set->Kind = kind;
+}
+
+}  // namespace
+
+RmSectionSet* RmModelGetCrossSections(const RmModel* model) {
+  return model ? model->CrossSections : nullptr;
+}
+
+void vRmModelSetCrossSections(RmModel* model, RmSectionSet* set) {
+  if (!model) return;
+  vStampKind(set, kRmCrossSections);
+  CrossSectionsSlot::Replace(&model->CrossSections, set);
+}
+
+RmSectionSet* RmModelGetOrCreateCrossSections(RmModel* model) {
+  if (model && !model->CrossSections) vRmModelSetCrossSections(model, RmSectionSetCreate());
+  return RmModelGetCrossSections(model);
+}
+
+RmSectionSet* RmModelGetCrossSectionsPending(const RmModel* model) {
+  return model ? model->CrossSectionsPending : nullptr;
+}
+
+RmSectionSet* RmModelGetCrossSectionsEffective(const RmModel* model) {
+  if (!model) return nullptr;
+  return model->CrossSectionsPending ? model->CrossSectionsPending : model->CrossSections;
+}
+
+RmSectionSet* RmModelPrepareCrossSections(RmModel* model) {
+  if (!model) return nullptr;
+  RmSectionSet* pending = CrossSectionsSlot::Prepare(model);
+  vStampKind(pending, kRmCrossSections);
+  return pending;
+}
+
+void vRmModelCommitCrossSections(RmModel* model) {
+  if (model) CrossSectionsSlot::Commit(model);
+}
+
+void vRmModelDiscardCrossSections(RmModel* model) {
+  if (model) CrossSectionsSlot::DiscardPending(model);
+}
+
+RmSectionSet* RmModelGetLongSections(const RmModel* model) {
+  return model ? model->LongSections : nullptr;
+}
+
+void vRmModelSetLongSections(RmModel* model, RmSectionSet* set) {
+  if (!model) return;
+  vStampKind(set, kRmLongSections);
+  LongSectionsSlot::Replace(&model->LongSections, set);
+}
+
+RmSectionSet* RmModelGetOrCreateLongSections(RmModel* model) {
+  if (model && !model->LongSections) vRmModelSetLongSections(model, RmSectionSetCreate());
+  return RmModelGetLongSections(model);
+}
+
+RmSectionSet* RmModelGetLongSectionsPending(const RmModel* model) {
+  return model ? model->LongSectionsPending : nullptr;
+}
+
+RmSectionSet* RmModelGetLongSectionsEffective(const RmModel* model) {
+  if (!model) return nullptr;
+  return model->LongSectionsPending ? model->LongSectionsPending : model->LongSections;
+}
+
+RmSectionSet* RmModelPrepareLongSections(RmModel* model) {
+  if (!model) return nullptr;
+  RmSectionSet* pending = LongSectionsSlot::Prepare(model);
+  vStampKind(pending, kRmLongSections);
+  return pending;
+}
+
+void vRmModelCommitLongSections(RmModel* model) {
+  if (model) LongSectionsSlot::Commit(model);
+}
+
+void vRmModelDiscardLongSections(RmModel* model) {
+  if (model) LongSectionsSlot::DiscardPending(model);
+}

@@ -1,0 +1,183 @@
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "base/session.h"
+#include "base/slink.h"
+#include "base/text.h"
+#include "parameters/factory_settings.h"
+#include "road_model/codes/code_lists.h"
+#include "road_model/codes/layer_names.h"
+#include "road_model/sections/layer_relations.h"
+#include "road_model/codes/layer_texts.h"
+#include "road_model/model/model.h"
+#include "road_model/codes/pcode.h"
+#include "tests/support/scratch_folder.h"
+
+namespace {
+
+// Layer names of the model, made by hand for the lookups.
+class LayerNamesFixture {
+ public:
+  LayerNamesFixture() { SLinkInit(&names.Names, sizeof(RmLayerName), nullptr); }
+  ~LayerNamesFixture() {
+    for (auto* name = ListFirst<RmLayerName>(&names.Names); name; name = name->Next) {
+      vHeapFree(&name->Name);
+    }
+    vSLinkClear(&names.Names);
+  }
+  RmLayerName* Add(uint32_t type, int number, const char* text) {
+    auto* name = SLinkNewObjAs<RmLayerName>(&names.Names);
+    name->Id = RmLayerIdMake(type, number);
+    sHeapSet(&name->Name, text);
+    return name;
+  }
+  RmLayerNames names;
+};
+
+class LayerTexts : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    pSessionCreate();
+    vWriteWholeFile(folder / "settings.ini",
+                    "[SectLayerTypeShort]\n1=Teo\n2=Fys\n3=TeoA\n4=FysA\n8=\"Kons. lag\"\n"
+                    "9=Avan\n"
+                    "[SectLayerTheoName]\n6=Planum\n7=\"Topp. traubunn\"\n"
+                    "[SectLayerPhysName]\n6=Fjell\n"
+                    "[SectLayerAdvancedName]\n2=Tunnelheng\n");
+    ASSERT_TRUE(boFactorySettingsRead((folder / "settings.ini").c_str()));
+  }
+  void TearDown() override { vSessionDelete(nullptr); }
+
+  ScratchFolder folder;
+};
+
+int64_t iPair(uint32_t type, int number) {
+  return static_cast<int64_t>(uRmLayerIdPack(RmLayerIdMake(type, number)));
+}
+
+}  // namespace
+
+TEST_F(LayerTexts, DefaultNamesComeFromTheTableOfTheType) {
+  EXPECT_STREQ(sRmLayerIdDefaultName(RmLayerIdMake(1, 6)), "Planum");
+  EXPECT_STREQ(sRmLayerIdDefaultName(RmLayerIdMake(3, 6)), "Planum");
+  EXPECT_STREQ(sRmLayerIdDefaultName(RmLayerIdMake(2, 6)), "Fjell");
+  EXPECT_STREQ(sRmLayerIdDefaultName(RmLayerIdMake(4, 6)), "Fjell");
+  EXPECT_STREQ(sRmLayerIdDefaultName(RmLayerIdMake(9, 2)), "Tunnelheng");
+  EXPECT_STREQ(sRmLayerIdDefaultName(RmLayerIdMake(8, 6)), "");
+  EXPECT_STREQ(sRmLayerIdDefaultName(RmLayerIdMake(1, 55)), "");
+}
+
+TEST_F(LayerTexts, ALayerTextPrefersTheModelsOwnName) {
+  EXPECT_STREQ(sLayerText(nullptr, 1, 6), "Teo   6: Planum");
+  EXPECT_STREQ(sLayerText(nullptr, 2, 123), "Fys 123: ");
+  EXPECT_STREQ(sLayerText(nullptr, 7, 1), "   1: ");
+  LayerNamesFixture names;
+  names.Add(1, 6, "Eget planum");
+  names.Add(1, 9, nullptr);
+  EXPECT_STREQ(sLayerText(&names.names, 1, 6), "Teo   6: Eget planum");
+  EXPECT_STREQ(sLayerText(&names.names, 3, 6), "TeoA   6: Planum");
+  EXPECT_STREQ(sRmLayerNameGetName(&names.names, RmLayerIdMake(1, 9)), "");
+  EXPECT_EQ(sRmLayerNameGetName(&names.names, RmLayerIdMake(1, 10)), nullptr);
+}
+
+TEST_F(LayerTexts, AShortTextDropsWhatFollowsTheFirstPoint) {
+  // "Kons. lag   6: " loses the blank behind the point.
+  EXPECT_STREQ(sLayerShortText(nullptr, 8, 6), "Kons.lag   6: ");
+  // "Teo   7: Topp. traubunn": the point is in the name.
+  EXPECT_STREQ(sLayerShortText(nullptr, 1, 7), "Teo   7: Topp.traubunn");
+  // No point: the text stays; other types are never cut.
+  EXPECT_STREQ(sLayerShortText(nullptr, 1, 6), "Teo   6: Planum");
+  LayerNamesFixture names;
+  names.Add(3, 1, "A. b");
+  names.Add(2, 1, "Ende.");
+  EXPECT_STREQ(sLayerShortText(&names.names, 3, 1), "TeoA   1: A. b");
+  EXPECT_STREQ(sLayerShortText(&names.names, 2, 1), "Fys   1: Ende.");
+  names.Add(2, 2, "Stopp.her");
+  EXPECT_STREQ(sLayerShortText(&names.names, 2, 2), "Fys   2: Stopp.");
+}
+
+TEST_F(LayerTexts, ALayerTextReadsBackToItsPair) {
+  EXPECT_EQ(iLayerFromText("Teo   6: Planum"), iPair(1, 6));
+  EXPECT_EQ(iLayerFromText(sLayerText(nullptr, 2, 123)), iPair(2, 123));
+  EXPECT_EQ(iLayerFromText(sLayerText(nullptr, 9, 2)), iPair(9, 2));
+  // The word matches a short name that begins with it: "Te" is type 1 before 3.
+  EXPECT_EQ(iLayerFromText("Te 5: x"), iPair(1, 5));
+  EXPECT_EQ(iLayerFromText("TeoA 5: x"), iPair(3, 5));
+  EXPECT_EQ(iLayerFromText("Teo 1:2: x"), iPair(1, 12));
+  EXPECT_EQ(iLayerFromText("Kant 5: x"), 0);
+  EXPECT_EQ(iLayerFromText("Teo 5 uten kolon"), 0);
+  EXPECT_EQ(iLayerFromText(": Teo 5"), 0);
+  EXPECT_EQ(iLayerFromText(""), 0);
+  EXPECT_EQ(iLayerFromText(nullptr), 0);
+  EXPECT_EQ(iLayerFromText((std::string(300, 'T') + " 5: x").c_str()), 0);
+
+  EXPECT_EQ(iLayerFromTextFor("Fys   6: Fjell", 2, 4), iPair(2, 6));
+  EXPECT_EQ(iLayerFromTextFor("Teo   6: Planum", 2, 4), 0);
+  // "Fys" begins "FysA" too, and type 4 is offered first.
+  EXPECT_EQ(iLayerFromTextFor("Fys   6: Fjell", 4, 2), iPair(4, 6));
+}
+
+TEST(LayerRelations, DerivedPhysicalLayersStandForTheirGroups) {
+  RmLayerId rockAndSoil = RmLayerIdMake(2, 80);
+  EXPECT_TRUE(boRmLayerDerivedFrom(rockAndSoil, RmLayerIdMake(2, 5), nullptr));
+  EXPECT_FALSE(boRmLayerDerivedFrom(rockAndSoil, RmLayerIdMake(2, 6), nullptr));
+  EXPECT_FALSE(boRmLayerDerivedFrom(rockAndSoil, RmLayerIdMake(4, 5), nullptr));
+  EXPECT_FALSE(boRmLayerDerivedFrom(rockAndSoil, RmLayerIdMake(2, 84), nullptr));
+  EXPECT_TRUE(boRmLayerDerivedFrom(RmLayerIdMake(2, 96), RmLayerIdMake(2, 15), nullptr));
+  EXPECT_FALSE(boRmLayerDerivedFrom(RmLayerIdMake(2, 97), RmLayerIdMake(2, 11), nullptr));
+  EXPECT_TRUE(boRmLayerDerivedFrom(RmLayerIdMake(2, 99), RmLayerIdMake(2, 50), nullptr));
+  EXPECT_TRUE(boRmLayerDerivedFrom(RmLayerIdMake(1, 98), RmLayerIdMake(1, 50), nullptr));
+  EXPECT_FALSE(boRmLayerDerivedFrom(RmLayerIdMake(1, 97), RmLayerIdMake(1, 50), nullptr));
+
+  LayerNamesFixture names;
+  names.Add(2, 40, "Grunnvann")->Category = 1;
+  names.Add(2, 3, "Utelatt")->Priority = -1;
+  EXPECT_TRUE(boRmLayerDerivedFrom(rockAndSoil, RmLayerIdMake(2, 40), &names.names));
+  EXPECT_FALSE(boRmLayerDerivedFrom(RmLayerIdMake(2, 81), RmLayerIdMake(2, 40), &names.names));
+  EXPECT_TRUE(boRmLayerDerivedFrom(RmLayerIdMake(2, 97), RmLayerIdMake(2, 40), &names.names));
+  EXPECT_FALSE(boRmLayerDerivedFrom(rockAndSoil, RmLayerIdMake(2, 3), &names.names));
+  EXPECT_FALSE(boRmLayerDerivedFrom(RmLayerIdMake(2, 99), RmLayerIdMake(2, 3), &names.names));
+}
+
+TEST(LayerRelations, CalculationIdsTakeTheModelsTypes) {
+  RmModel* model = RmModelCreate();
+  vRmModelSetCalcTheo(model, 3);
+  vRmModelSetCalcPhys(model, 4);
+  RmLayerId theo = RmLayerIdForCalc(model, RmLayerIdMake(1, 6));
+  EXPECT_EQ(theo.Type, 3u);
+  EXPECT_EQ(theo.Number, 6);
+  EXPECT_EQ(RmLayerIdForCalc(model, RmLayerIdMake(4, 11)).Type, 4u);
+  EXPECT_EQ(RmLayerIdForCalc(model, RmLayerIdMake(2, 11)).Type, 4u);
+  EXPECT_EQ(RmLayerIdForCalc(model, RmLayerIdMake(9, 11)).Type, 9u);
+  vRmModelDelete(model);
+}
+
+TEST(CodeLists, CodesLieInItemsAndRanges) {
+  const char* list = "1.01:1.99,3.05";
+  EXPECT_TRUE(boCodeInList(list, iRmPcodeFromText("1.50")));
+  EXPECT_FALSE(boCodeInList(list, iRmPcodeFromText("2.00")));
+  EXPECT_TRUE(boCodeInList(list, 30500));
+  EXPECT_TRUE(boCodeInList(list, 10100));
+  EXPECT_TRUE(boCodeInList(list, 19900));
+  EXPECT_FALSE(boCodeInList(list, 30501));
+  EXPECT_TRUE(boCodeInList("", 12345));
+  EXPECT_TRUE(boCodeInList(nullptr, 12345));
+  EXPECT_TRUE(boCodeInList("-3.05 , (2.01:2.05)", -30500));
+  EXPECT_TRUE(boCodeInList("-3.05 , (2.01:2.05)", 20300));
+  EXPECT_FALSE(boCodeInList(",,", 0));
+}
+
+TEST(CodeLists, AscendingOrderIsCheckedAcrossItemsAndGroups) {
+  EXPECT_TRUE(boCodeListIsAscending(""));
+  EXPECT_TRUE(boCodeListIsAscending(nullptr));
+  EXPECT_TRUE(boCodeListIsAscending("1.01:1.99,3.05"));
+  EXPECT_TRUE(boCodeListIsAscending("-2.01,1.05 (1.06:1.10)"));
+  EXPECT_FALSE(boCodeListIsAscending("3.05,1.01"));
+  EXPECT_FALSE(boCodeListIsAscending("1.99:1.01"));
+  // "1.5-1" is one number: the "-" inside it starts nothing new.
+  EXPECT_TRUE(boCodeListIsAscending("1.5-1,2"));
+  // A group must close within its item.
+  EXPECT_FALSE(boCodeListIsAscending("(1.01,1.02)"));
+  EXPECT_TRUE(boCodeListIsAscending("1.01,(1.02"));
+}

@@ -1,0 +1,120 @@
+// A conversion that reads no tables leaves the sections of the model file as
+// they were.
+#include <gtest/gtest.h>
+
+#include <string>
+#include <utility>
+
+#include "geometry/line.h"
+#include "kvrvips/kvrvips.h"
+#include "model_file/records/frame/model_file.h"
+#include "road_model/model/model.h"
+#include "road_model/model/model_lines.h"
+#include "road_model/params/sect_params.h"
+#include "road_model/model/model_sections.h"
+#include "road_model/sections/section_set.h"
+#include "tests/vips_import/conversion_fixtures.h"
+#include "vips_import/driver/section_finishing.h"
+
+namespace {
+
+// Cross sections with clipping, tilt, masses with outlines, a locked
+// section and layers of every point form; long sections beside them.
+void vSaveModelWithSections(const std::string& path) {
+  RmModel* model = RmModelCreate();
+  RmSectionSet* cross = RmModelGetOrCreateCrossSections(model);
+  for (double chain : {0.0, 20.0, 40.0}) {
+    RmSection* section = RmSectionAdd(cross, nullptr, chain);
+    section->ClX = 1000.0 + chain;
+    section->ClY = 2000.0;
+    section->Direction = -1.5707963267948966;
+    section->LeftDist = 20.0f;
+    section->RightDist = 22.5f;
+    vRmSectionSetClipDist(section, 1, true, 18.25);
+    RmMass* mass = RmMassAdd(section, 3);
+    mass->Area = 12.34567;
+    mass->CentroidOffset = -1.5;
+    RmLayer* layer = RmLayerAdd(section, RmLayerIdMake(1, 2));
+    vRmLayerSetBuildMethod(layer, 1);
+    vRmLayerSetBlockName(layer, "Kum");
+    RmPointAdd(layer, nullptr, -7.25, 101.5, -20105);
+    RmPointAdd(layer, nullptr, -3.0, 102.0, -10100)->Radius = 25.5f;
+    vRmPointSetMark(RmPointAdd(layer, nullptr, 0.0, 103.125, 0), 2);
+    RmPointAdd(layer, nullptr, 3.0, -99999.0, 10100);
+  }
+  RmSection* locked = RmSectionsGetLast(cross);
+  vRmSectionSetFlag(locked, kRmSectionLocked | kRmSectionTilted, true);
+  locked->TiltSlope = 0.02;
+  locked->TiltHeight = 101.0;
+  locked->TunnelRotation = 7.5;
+  LiLine* outline = LiLineCreate(false);
+  LiLineAddP2d(outline, -3, 0);
+  LiLineAddP2d(outline, 4, 2);
+  RmMassFind(locked, 3)->ExactLine = outline;
+  RmSectionSet* longSections = RmModelGetOrCreateLongSections(model);
+  RmPointAdd(RmLayerAdd(RmSectionAdd(longSections, nullptr, 0.0), RmLayerIdMake(2, 1)), nullptr,
+             250.5, 104.25, 0);
+  ASSERT_TRUE(boRmModelSave(model, path.c_str()));
+  vRmModelDelete(model);
+}
+
+// The model file with sections saved in `folder`, converted with `flags`:
+// its bytes before and after.
+std::pair<std::string, std::string> SectionsBeforeAndAfter(const ScratchFolder& folder,
+                                                           uint32_t flags) {
+  std::string modelFile = folder / "veg.sfi";
+  vSaveModelWithSections(modelFile);
+  std::string before = sReadWholeFile(modelFile);
+  vWriteWholeFile(folder / "veg.json", sDesignDocument(sInputOf("10.0", 1)));
+  char* logFile = nullptr;
+  EXPECT_EQ(iKvrVipsConvertDatabase((folder / "veg.json").c_str(), modelFile.c_str(), flags,
+                                    &logFile, sShippedSettings().c_str(), 0, 0),
+            0);
+  return {before, sReadWholeFile(modelFile)};
+}
+
+}  // namespace
+
+TEST(ConvertDatabase, FlagsZeroKeepTheSectionsOfTheModelFileExactly) {
+  ScratchFolder folder;
+  auto [before, after] = SectionsBeforeAndAfter(folder, 0);
+  for (const char* head : {"[+O_CROSSECTIONS]", "[+L_CSECTSMASSESLINES]", "[+O_LONGSECTIONS]"}) {
+    EXPECT_NE(sBody(before, head), "<none>") << head;
+    EXPECT_EQ(sBody(after, head), sBody(before, head)) << head;
+  }
+}
+
+TEST(ConvertDatabase, ATablesImportMakesTheSectionsAnew) {
+  ScratchFolder folder;
+  std::string after = SectionsBeforeAndAfter(folder, KVRVIPS_IMPORT_TABLES).second;
+  EXPECT_EQ(after.find("CROSSECTIONS"), std::string::npos);
+  EXPECT_EQ(after.find("LONGSECTIONS"), std::string::npos);
+}
+
+TEST(SectionFinishing, TheWidthComesFromTheOuterLayersAndTheSectionsGoOnTheMainLine) {
+  RmModel* model = RmModelCreate();
+  vRmModelSetLines(model, RmLinesCreateDefault());
+  LiLineAddP2d(RmModelGetCenterLine(model), 0, 0);
+  LiLineAddP2d(RmModelGetCenterLine(model), 0, 100);
+  RmSectionSet* set = RmModelGetOrCreateCrossSections(model);
+  RmSection* first = RmSectionAdd(set, nullptr, 10.0);
+  RmLayer* outer = RmLayerAdd(first, RmLayerIdMake(4, 1));
+  RmPointAdd(outer, nullptr, -12.25, 1.0, 0);
+  RmPointAdd(outer, nullptr, 9.25, 1.0, 0);
+  RmSection* second = RmSectionAdd(set, nullptr, 50.0);
+  RmPointAdd(RmLayerAdd(second, RmLayerIdMake(3, 5)), nullptr, -15.5, 1.0, 0);
+  // Layers of other types do not count.
+  RmPointAdd(RmLayerAdd(second, RmLayerIdMake(2, 1)), nullptr, 40.0, 1.0, 0);
+
+  vVipsFitSectionsToMainLine(model);
+  const RmSectParams* params = RmModelGetSectParams(model);
+  EXPECT_EQ(params->DistLeft, 17.0);
+  EXPECT_EQ(params->DistRight, 11.0);
+  EXPECT_EQ(second->LeftDist, 17.0f);
+  EXPECT_NEAR(second->ClY, 50.0, 1e-9);
+  EXPECT_NEAR(second->RightEnd[0], 11.0, 1e-9);
+
+  vVipsClearSections(model);
+  EXPECT_EQ(iRmSectionsGetCount(RmModelGetCrossSections(model)), 0);
+  vRmModelDelete(model);
+}

@@ -1,0 +1,210 @@
+#include "vips_import/driver/import_driver.h"
+
+#include <cstdio>
+#include <memory>
+
+#include "design_model/design_model.h"
+#include "parameters/factory_settings.h"
+#include "road_model/model/model.h"
+#include "road_model/model/model_lines.h"
+#include "vips_import/readers/alignments.h"
+#include "vips_import/readers/connected_models.h"
+#include "vips_import/readers/elevation_differences.h"
+#include "vips_import/driver/external_converter.h"
+#include "vips_import/driver/import_log.h"
+#include "vips_import/driver/open_errors.h"
+#include "vips_import/driver/section_finishing.h"
+#include "vips_import/driver/version_labels.h"
+#include "vips_import/readers/wide_text.h"
+
+namespace {
+
+using NpDesignModel::CDesignModel;
+using NpDesignModel::CInData;
+using NpDesignModel::CResultData;
+
+// What the steps of one import share.
+struct VipsImportRun {
+  RmModel* model;
+  std::FILE* log;            // null when no log file could be made
+  uint32_t importFlags;
+  const CDesignModel* design;  // null when the design gave no object
+  const CInData* in;           // the design's input side, or null
+  const CResultData* res;      // the design's result side, or null
+  int modelType;               // the input side's model type; 0 without one
+  int rehabUsed;               // the pavement uses rehabilitation data
+};
+
+// What a step needs of the design to run.
+enum class VipsStepNeeds {
+  kNothing,  // works on the model alone, also when the design gave no object
+  kDesign,   // a design object
+  kInput,    // the design's input side
+  kResults,  // the design's result side
+};
+
+struct VipsImportStep {
+  // The flag bit that asks for the step; 0: every flag value does;
+  // kVipsImportFull: that value exactly, and no other.
+  uint32_t flag;
+  VipsStepNeeds needs;
+  void (*run)(VipsImportRun& run);
+};
+
+bool boStepRuns(const VipsImportStep& step, const VipsImportRun& run) {
+  if (step.flag == kVipsImportFull) {
+    if (run.importFlags != kVipsImportFull) return false;
+  } else if (step.flag != 0 && (run.importFlags & step.flag) == 0) {
+    return false;
+  }
+  switch (step.needs) {
+    case VipsStepNeeds::kNothing: return true;
+    case VipsStepNeeds::kDesign: return run.design != nullptr;
+    case VipsStepNeeds::kInput: return run.in != nullptr;
+    case VipsStepNeeds::kResults: return run.res != nullptr;
+  }
+  return false;
+}
+
+// ---- The steps ----
+
+// The version is taken once per import, for the rules that depend on it.
+void vLogModelHeader(VipsImportRun& run) {
+  VipsModelVersion = run.in->GetModelVersionNumber();
+  run.modelType = run.in->GetModelType();
+  vVipsLogModelHeader(run.log, VipsModelVersion, run.modelType);
+}
+
+// A full import fills a model that keeps only its file name and GUID, with
+// the calculation settings of a new import. A WS design leaves the road type
+// at its default.
+void vResetModel(VipsImportRun& run) {
+  vRmModelReset(run.model);
+  vRmModelSetCalcTheo(run.model, 3);
+  vRmModelSetCalcPhys(run.model, 4);
+  vRmModelSetCalcStandard(run.model, iRmModelDefaultCalcStandard());
+  if (run.modelType == 1 || run.modelType == 2) vRmModelSetRoadType(run.model, run.modelType);
+}
+
+// Whatever the flags ask for, the model's alignments go: those that the
+// flags ask for are read anew, the others are gone.
+void vEmptyPlanLines(VipsImportRun& run) { vRmLinesClear(RmModelGetOrCreateLines(run.model)); }
+
+// The reference alignment's plan geometry.
+void vReadMainHorizontal(VipsImportRun& run) {
+  iVipsReadAlignments(run.in, run.log, run.model, 1, 1, 0);
+}
+
+// The reference alignment's profile, and the stretches where the sections
+// override it; a blank line in the log when the design has none.
+void vReadMainVertical(VipsImportRun& run) {
+  iVipsReadAlignments(run.in, run.log, run.model, 1, 0, 1);
+  if (!boVipsReadElevationDifferences(run.in, run.log, run.model)) vVipsLogPrint(run.log, "\n");
+}
+
+// Every other alignment, plan and profile together.
+void vReadExtraAlignments(VipsImportRun& run) {
+  iVipsReadAlignments(run.in, run.log, run.model, 0, 1, 1);
+}
+
+void vStartTables(VipsImportRun& run) {
+  run.rehabUsed = 0;
+  vRmModelSetCalcMode(run.model, 0);
+}
+
+void vReadConnectedModels(VipsImportRun& run) { iVipsReadConnectedModels(run.in, run.log); }
+
+// Sets the sections apart from the tables in the log.
+// Sections are always made anew by the readers of the result side.
+void vClearSections(VipsImportRun& run) { vVipsClearSections(run.model); }
+
+void vLogSectionsStart(VipsImportRun& run) { vVipsLogPrint(run.log, "\n"); }
+
+void vFitSectionsToMainLine(VipsImportRun& run) { vVipsFitSectionsToMainLine(run.model); }
+
+// Rehabilitation data is not imported; the log says so, and the import
+// goes on.
+void vWarnOfRehabilitation(VipsImportRun& run) {
+  if (!run.rehabUsed) return;
+  vVipsLogPrint(run.log,
+                "\n*****Advarsel*****\n"
+                "Data for rehabilitering av vei er brukt i vips\n"
+                "prosjektet. Tabeller for dette blir ikke importert!\n\n");
+}
+
+// The import, in the order in which its steps must run. This list is the
+// one place where a reader of the design enters the import: a reader that is
+// not written yet is missing from it, and the comments name it where it
+// belongs.
+constexpr VipsImportStep kImportSteps[] = {
+    {0, VipsStepNeeds::kInput, vLogModelHeader},
+    {kVipsImportFull, VipsStepNeeds::kInput, vResetModel},
+    {0, VipsStepNeeds::kInput, vEmptyPlanLines},
+    // Alignments, each pass over the design's alignments on its own flag.
+    // The main line is marked in the first pass, before the elevation
+    // differences look for it.
+    {kVipsImportHorizontal, VipsStepNeeds::kInput, vReadMainHorizontal},
+    {kVipsImportVertical, VipsStepNeeds::kInput, vReadMainVertical},
+    {kVipsImportExtraAlignments, VipsStepNeeds::kInput, vReadExtraAlignments},
+
+    // The tables, also when the design gave no object:
+    //   a new, empty RmSurfGen in place of the model's (kNothing)
+    {kVipsImportTables, VipsStepNeeds::kNothing, vStartTables},
+    // Table readers of the input side, in this order: surfaces come before
+    // the side tables that hang on their groups.
+    //   vVipsReadModelSettings, iVipsReadSurfaces, iVipsReadSurfaceBoundaries,
+    //   vVipsReadSurfaceEdgeAlignments, iVipsReadEmbankmentDitches,
+    //   iVipsReadRockShelves, iVipsReadDitchDepths, iVipsReadClosedDrainages,
+    {kVipsImportTables, VipsStepNeeds::kInput, vReadConnectedModels},
+    //   iVipsReadPavement (sets rehabUsed), vVipsReadDetailedPavement,
+    //   iVipsReadTopSoilRemovals, iVipsReadSoftSpotRemovals
+
+    // Sections, always rebuilt from scratch:
+    {kVipsImportTables, VipsStepNeeds::kDesign, vClearSections},
+    {kVipsImportTables, VipsStepNeeds::kDesign, vLogSectionsStart},
+    //   then, on the result side, vVipsReadPhysicalProfiles,
+    //   vVipsReadMiscLayers and vVipsReadTheoreticalProfiles (with the
+    //   RmSurfGen and modelType): the theoretical reader fills the sections
+    //   that the physical one made.
+    {kVipsImportTables, VipsStepNeeds::kDesign, vWarnOfRehabilitation},
+
+    // Finishing, over all tables at once (kNothing):
+    //   vVipsAddFreeSurfaces(surfGen), then the section width (DISTLEFT,
+    //   DISTRIGHT) from the layers of types 4 and 3, and the cross sections
+    //   placed on the main line:
+    {kVipsImportTables, VipsStepNeeds::kNothing, vFitSectionsToMainLine},
+};
+
+}  // namespace
+
+int iVipsImport(const char* genFile, RmModel* model, uint32_t importFlags, char** logFileOut,
+                uint32_t describeOpenError, uint32_t convertFirst) {
+  VipsLogFile logFile(logFileOut);
+  if (!model) return -1;
+  logFile.vOpen(genFile);
+  std::FILE* log = logFile.Stream();
+
+  if (convertFirst && !boVipsRunConverter(genFile, log)) {
+    vVipsLogPrint(log, "\n");
+    return -1;
+  }
+
+  int32_t err = 0;
+  std::unique_ptr<CDesignModel> design(CDesignModel::Open(sVipsWiden(genFile), err));
+  if (err != 0) {
+    vVipsLogOpenError(log, err, describeOpenError != 0);
+    return -1;
+  }
+
+  VipsImportRun run{};
+  run.model = model;
+  run.log = log;
+  run.importFlags = importFlags;
+  run.design = design.get();
+  run.in = design ? design->GetI() : nullptr;
+  run.res = design ? design->GetR() : nullptr;
+  for (const VipsImportStep& step : kImportSteps) {
+    if (boStepRuns(step, run)) step.run(run);
+  }
+  return 0;
+}
