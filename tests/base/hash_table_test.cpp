@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <string>
 
-#include "tests/support/scratch_folder.h"
+#include "tests/support/captured_messages.h"
 
 namespace {
 

@@ -7,7 +7,7 @@
 #include "base/dlink.h"
 #include "base/pool.h"
 #include "base/slink.h"
-#include "tests/support/scratch_folder.h"
+#include "tests/support/captured_messages.h"
 
 namespace {
 

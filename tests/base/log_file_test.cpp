@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "base/platform.h"
+#include "tests/support/captured_messages.h"
 #include "tests/support/scratch_folder.h"
 
 namespace {

@@ -8,7 +8,7 @@
 #include <thread>
 #include <vector>
 
-#include "tests/support/scratch_folder.h"
+#include "tests/support/captured_messages.h"
 
 namespace {
 

@@ -15,7 +15,7 @@
 #include "geometry/net.h"
 #include "geometry/point_text.h"
 #include "geometry/polygon.h"
-#include "tests/support/scratch_folder.h"
+#include "tests/support/owned.h"
 
 inline constexpr double kPi = std::numbers::pi;
 

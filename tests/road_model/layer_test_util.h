@@ -9,12 +9,9 @@
 
 #include "road_model/sections/layer.h"
 #include "road_model/model/model.h"
+#include "tests/support/model_ptr.h"
 #include "road_model/sections/section.h"
 
-struct ModelDeleter {
-  void operator()(RmModel* model) const { vRmModelDelete(model); }
-};
-using ModelPtr = std::unique_ptr<RmModel, ModelDeleter>;
 
 struct SectionDeleter {
   void operator()(RmSection* section) const { vRmSectionDeleteFree(section); }

@@ -11,11 +11,8 @@
 #include "design_model/design_model_builder.h"
 #include "model_file/records/frame/model_file.h"
 #include "road_model/model/model.h"
+#include "tests/support/model_file_text.h"
 
-struct ModelDeleter {
-  void operator()(RmModel* model) const { vRmModelDelete(model); }
-};
-using ModelPtr = std::unique_ptr<RmModel, ModelDeleter>;
 
 // The model loaded from this file; a failed load fails the test.
 inline ModelPtr Loaded(const std::string& modelFile) {

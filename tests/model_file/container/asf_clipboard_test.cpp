@@ -6,6 +6,7 @@
 #include "base/platform.h"
 #include "model_file/container/asf_clipboard.h"
 #include "tests/model_file/container/asf_test_util.h"
+#include "tests/support/scratch_folder.h"
 
 TEST(AsfClipboard, CopyAndPasteASection) {
   AsfFile* copy = AsfClipboardCreate();

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "model_file/container/asf_stream.h"
-#include "tests/support/scratch_folder.h"
+#include "tests/support/owned.h"
 
 namespace {
 

@@ -9,6 +9,7 @@
 #include "model_file/container/asf_handle.h"
 #include "model_file/container/asf_sections.h"
 #include "tests/model_file/container/asf_test_util.h"
+#include "tests/support/scratch_folder.h"
 
 namespace {
 

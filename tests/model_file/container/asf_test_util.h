@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "model_file/container/asf_file.h"
-#include "tests/support/scratch_folder.h"
+#include "tests/support/owned.h"
 
 using OwnedFile = Owned<AsfFile, vAsfFileClose>;
 

@@ -7,7 +7,9 @@
 
 #include "model_file/container/asf_file.h"
 #include "model_file/container/asf_handle.h"
+#include "tests/support/captured_messages.h"
 #include "tests/model_file/container/asf_test_util.h"
+#include "tests/support/scratch_folder.h"
 
 namespace {
 

@@ -184,7 +184,7 @@ TEST(ConvertDatabase, WithoutFactorySettingsNothingIsTouched) {
   ScratchFolder folder;
   vWriteWholeFile(folder / "veg.json", sDesignDocument(sInputOf("10.0", 1)));
   std::string modelFile = folder / "veg.sfi";
-  MessageCatcher messages;
+  CapturedMessages messages;
 
   Conversion conversion = Convert(folder / "veg.json", modelFile, KVRVIPS_IMPORT_FULL, 0, "");
   EXPECT_EQ(conversion.result, -1);

@@ -13,7 +13,8 @@
 #include "road_model/params/sect_params.h"
 #include "road_model/params/sect_triangulation_params.h"
 #include "tests/support/scratch_folder.h"
-#include "tests/model_file/records/model_file_test_util.h"
+#include "tests/support/captured_messages.h"
+#include "tests/support/model_file_text.h"
 
 namespace {
 
@@ -141,7 +142,7 @@ TEST(ModelLoad, AFileOfThisProgramReadsAndWritesBackByteForByte) {
 
 TEST(ModelLoad, FilesThatCannotBeReadLeaveTheModelAsItWas) {
   ScratchFolder folder;
-  MessageCatcher messages;
+  CapturedMessages messages;
   ModelPtr model = MarkedModel("Eng");
   vRmModelSetFileName(model.get(), "/keep/this.sfi");
   auto expectUnchanged = [&](const std::string& what) {
@@ -168,7 +169,7 @@ TEST(ModelLoad, FilesThatCannotBeReadLeaveTheModelAsItWas) {
   EXPECT_FALSE(boRmModelLoad(model.get(), (folder / "other.sfi").c_str()));
   expectUnchanged("other type");
   expectUnchanged("other type");
-  EXPECT_TRUE(messages.Texts().empty());
+  EXPECT_TRUE(messages.texts().empty());
 
   // The type compares without regard to case.
   otherType.replace(otherType.find("_FILETYPE rfi"), 13, "_FILETYPE SFI");
@@ -184,16 +185,16 @@ TEST(ModelLoad, AFileOfALaterVersionIsRefusedWithAMessage) {
   bytes.replace(bytes.find("DATAVERSION 13"), 14, "DATAVERSION 14");
   vWriteWholeFile(path, bytes);
 
-  MessageCatcher messages;
+  CapturedMessages messages;
   ModelPtr model = MarkedModel("Eng");
   EXPECT_FALSE(boRmModelLoad(model.get(), path.c_str()));
-  ASSERT_EQ(messages.Texts().size(), 1u);
-  EXPECT_EQ(messages.Texts()[0],
+  ASSERT_EQ(messages.texts().size(), 1u);
+  EXPECT_EQ(messages.texts()[0],
             "Can't read file \"" + std::string(sPathFull(path.c_str())) +
                 "\". Too new version (14)");
   EXPECT_STREQ(sRmModelGetMarket(model.get()), "Eng");
   EXPECT_EQ(RmModelOpenFile(model.get(), path.c_str()), nullptr);
-  EXPECT_EQ(messages.Texts().size(), 2u);
+  EXPECT_EQ(messages.texts().size(), 2u);
 
   // Version 13 and a file without a version are read.
   bytes.replace(bytes.find("DATAVERSION 14"), 14, "DATAVERSION 13");
@@ -203,7 +204,7 @@ TEST(ModelLoad, AFileOfALaterVersionIsRefusedWithAMessage) {
   vWriteWholeFile(path, bytes);
   EXPECT_TRUE(boRmModelLoad(model.get(), path.c_str()));
   EXPECT_EQ(model->DataVersion, 0);
-  EXPECT_EQ(messages.Texts().size(), 2u);
+  EXPECT_EQ(messages.texts().size(), 2u);
 }
 
 TEST(ModelSave, ASaveReplacesTheTargetWithACompleteFile) {

@@ -8,7 +8,7 @@
 #include "road_model/params/road_dim_params.h"
 #include "road_model/params/sect_params.h"
 #include "road_model/params/sect_triangulation_params.h"
-#include "tests/model_file/records/model_file_test_util.h"
+#include "tests/support/model_file_text.h"
 
 namespace {
 

@@ -14,7 +14,7 @@
 #include "road_model/lines/line_fields.h"
 #include "road_model/model/model_lines.h"
 #include "road_model/lines/vertical_line.h"
-#include "tests/model_file/records/model_file_test_util.h"
+#include "tests/support/model_file_text.h"
 
 namespace {
 

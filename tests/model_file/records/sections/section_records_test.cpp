@@ -18,7 +18,7 @@
 #include "road_model/model/model_sections.h"
 #include "road_model/params/sect_params.h"
 #include "road_model/sections/section_set.h"
-#include "tests/model_file/records/model_file_test_util.h"
+#include "tests/support/model_file_text.h"
 
 namespace {
 

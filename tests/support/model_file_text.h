@@ -1,24 +1,16 @@
-// Helpers of the model file tests: texts with CR LF line ends, models
-// written to memory and read back from bytes, and a catcher of message
-// boxes.
+// Model files as text, for every suite that checks them on bytes: lines with
+// CR LF ends, the head of a file, the body of one section, models written to
+// memory and read back from bytes.
 #pragma once
 
 #include <initializer_list>
-#include <memory>
 #include <string>
-#include <vector>
 
-#include "base/platform.h"
 #include "model_file/container/asf_file.h"
 #include "model_file/records/frame/model_file.h"
 #include "road_model/model/model.h"
+#include "tests/support/model_ptr.h"
 
-struct ModelDeleter {
-  void operator()(RmModel* model) const { vRmModelDelete(model); }
-};
-using ModelPtr = std::unique_ptr<RmModel, ModelDeleter>;
-
-inline ModelPtr NewModel() { return ModelPtr(RmModelCreate()); }
 
 // The lines, each ended by CR LF.
 inline std::string sCrLf(std::initializer_list<std::string> lines) {
@@ -89,24 +81,3 @@ inline ModelPtr ReadModel(const std::string& bytes) {
   vAsfFileClose(file);
   return accepted ? std::move(model) : nullptr;
 }
-
-// Collects the texts of message boxes while it lives.
-class MessageCatcher {
- public:
-  MessageCatcher() { previous_ = pfnPlatformSetMessageHandler(&Catch); }
-  ~MessageCatcher() {
-    pfnPlatformSetMessageHandler(previous_);
-    Texts().clear();
-  }
-  static std::vector<std::string>& Texts() {
-    static std::vector<std::string> texts;
-    return texts;
-  }
-
- private:
-  static int Catch(const char* text, const char*, unsigned int) {
-    Texts().push_back(text ? text : "");
-    return kIdOk;
-  }
-  PlatformMessageHandler previous_;
-};
