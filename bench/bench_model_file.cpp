@@ -6,8 +6,9 @@
 
 #include "model_file/records/frame/model_file.h"
 #include "road_model/model/model.h"
-#include "road_model/model/model_sections.h"
+#include "road_model/model/model_parts.h"
 #include "road_model/codes/pcode.h"
+#include "road_model/sections/section_masses.h"
 #include "road_model/sections/section_set.h"
 
 namespace {

@@ -1,5 +1,4 @@
-// The curves of a vertical line: slopes of the straight pieces, and for each
-// intersection point where its circle or parabola starts and ends.
+#include "road_model/lines/vertical_curves.h"
 
 #include <cmath>
 #include <numbers>

@@ -1,4 +1,4 @@
-// Heights along vertical lines and plan lines.
+#include "road_model/lines/vertical_heights.h"
 
 #include <cmath>
 

@@ -3,11 +3,10 @@
 // A vertical line is a row of intersection points in the plane of chainage
 // and height. Straight pieces join the points; at a point the two pieces may
 // be joined by a circular curve of a given radius or by a parabola of a given
-// length. iRmVerLineCompute works out the slopes and where each curve starts
-// and ends; the model calls it after every change of the points. The height
-// at a chainage is then read from the pieces and curves.
-//
-// Every evaluation gives -99999.0 when it has no height.
+// length. iRmVerLineCompute (vertical_curves.h) works out the slopes and
+// where each curve starts and ends; the model calls it after every change of
+// the points. The height at a chainage is then read from the pieces and
+// curves (vertical_heights.h).
 #pragma once
 
 #include <cstdint>
@@ -15,6 +14,7 @@
 #include "base/slink.h"
 #include "road_model/codes/code_ranges.h"
 #include "road_model/lines/plan_lines.h"
+#include "road_model/lines/vertical_curves.h"
 
 struct RmDiffAltitudes;
 
@@ -83,31 +83,3 @@ RmVerPoint* RmVerPointAdd(RmVerLine* verLine, double chain, double height, doubl
 // The same, in front of `before` (null: at the end).
 RmVerPoint* RmVerPointAddBefore(RmVerLine* verLine, RmVerPoint* before, double chain,
                                 double height, double radius, double length);
-
-// ---- Curves ----
-
-// Computes slopes and the curves at the points. 2 when the line has fewer
-// than two points, 1 when a curve had to be shortened to fit between its
-// neighbours, 0 otherwise.
-int iRmVerLineCompute(RmVerLine* verLine);
-
-// ---- Heights ----
-
-// The height at `chain` from the points and curves alone, and the slope of
-// the piece there when `slope` is given.
-double dRmVerLineHeightAt(const RmVerLine* verLine, double chain, double* slope);
-// The same, except inside a range of the difference table: there the height
-// follows the centre heights of the model's cross sections, raised by the
-// range's difference (see section_heights.h).
-double dRmVerLineHeightDiffAware(const RmVerLine* verLine, double chain, double* slope);
-// The difference-aware height of the line's vertical line; without one the
-// height of a 3D line at that chainage (the slope is then left alone), or
-// -99999.0 for a 2D line.
-double dRmLineHeightAt(const RmLine* line, double chain, double* slope);
-
-// The lowest and highest height of the line: the intersection points and
-// curve ends of `verLine`, and the heights at the ends of `range` when it is
-// given. Without any, the points of a 3D `line`. Only values inside `range`
-// (closed) count. False when no height was found.
-bool boRmLineHeightRange(const RmVerLine* verLine, const RmLine* line, const RmChainRange* range,
-                         double* min, double* max);

@@ -7,6 +7,7 @@
 #include "base/temp_text.h"
 #include "base/text.h"
 #include "road_model/model/model_parts.h"
+#include "road_model/model/model_scalars.h"
 
 namespace {
 

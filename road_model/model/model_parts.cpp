@@ -7,7 +7,6 @@
 #include "road_model/model/hyperlinks.h"
 #include "road_model/model/model.h"
 #include "road_model/model/model_lines.h"
-#include "road_model/model/model_sections.h"
 #include "road_model/params/road_dim_params.h"
 #include "road_model/params/sect_params.h"
 #include "road_model/params/sect_triangulation_params.h"

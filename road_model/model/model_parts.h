@@ -1,11 +1,18 @@
-// The sub-objects of the model as rows of one table, so that the life cycle
-// of the model (init, release, copy, commit, discard) treats them all alike.
-// A sub-object type joins the model by adding its row in model_parts.cpp.
+// The sub-objects of the model: typed access to their slots, and the same
+// slots as rows of one table, so that the life cycle of the model (init,
+// release, copy, commit, discard) treats them all alike. A sub-object type
+// joins the model by adding its row in model_parts.cpp.
 #pragma once
 
 #include <span>
 
+struct RmAdmData;
+struct RmHyperlinks;
 struct RmModel;
+struct RmRoadDimParams;
+struct RmSectParams;
+struct RmSectTriangulationParams;
+struct RmSectionSet;
 
 struct RmModelPart {
   // Creates the object that a new model has; null when a new model has none.
@@ -26,3 +33,61 @@ struct RmModelPart {
 // The rows in the order in which a model releases its sub-objects; pending
 // objects are discarded and committed in the same order.
 std::span<const RmModelPart> RmModelParts();
+
+// ---- Sub-objects ----
+//
+// Get gives the committed object, GetPending the pending one or null,
+// GetEffective the pending one if there is one, else the committed one. A
+// setter takes ownership and deletes the object it replaces. Prepare makes a
+// pending object if there is none, as a deep copy of the committed one when
+// that exists, and returns it. Commit replaces the committed object by a
+// pending one and marks the model dirty; with nothing pending it does
+// nothing. Discard deletes the pending object.
+
+RmAdmData* RmModelGetAdmData(const RmModel* model);
+void vRmModelSetAdmData(RmModel* model, RmAdmData* data);
+
+RmHyperlinks* RmModelGetHyperlinks(const RmModel* model);
+void vRmModelSetHyperlinks(RmModel* model, RmHyperlinks* links);
+
+RmSectTriangulationParams* RmModelGetSectTriangulationParams(const RmModel* model);
+void vRmModelSetSectTriangulationParams(RmModel* model, RmSectTriangulationParams* params);
+
+RmSectParams* RmModelGetSectParams(const RmModel* model);
+void vRmModelSetSectParams(RmModel* model, RmSectParams* params);
+RmSectParams* RmModelGetSectParamsPending(const RmModel* model);
+RmSectParams* RmModelGetSectParamsEffective(const RmModel* model);
+RmSectParams* RmModelPrepareSectParams(RmModel* model);
+void vRmModelCommitSectParams(RmModel* model);
+void vRmModelDiscardSectParams(RmModel* model);
+
+RmRoadDimParams* RmModelGetRoadDimParams(const RmModel* model);
+void vRmModelSetRoadDimParams(RmModel* model, RmRoadDimParams* params);
+RmRoadDimParams* RmModelGetRoadDimParamsPending(const RmModel* model);
+RmRoadDimParams* RmModelGetRoadDimParamsEffective(const RmModel* model);
+RmRoadDimParams* RmModelPrepareRoadDimParams(RmModel* model);
+void vRmModelCommitRoadDimParams(RmModel* model);
+void vRmModelDiscardRoadDimParams(RmModel* model);
+
+// The two section sets: cross sections (CROSSECTIONS) and long sections
+// (LONGSECTIONS). The setters stamp the set's kind: 0 for cross sections, 1
+// for long sections.
+
+RmSectionSet* RmModelGetCrossSections(const RmModel* model);
+void vRmModelSetCrossSections(RmModel* model, RmSectionSet* set);
+// The committed set, made empty first when the model has none.
+RmSectionSet* RmModelGetOrCreateCrossSections(RmModel* model);
+RmSectionSet* RmModelGetCrossSectionsPending(const RmModel* model);
+RmSectionSet* RmModelGetCrossSectionsEffective(const RmModel* model);
+RmSectionSet* RmModelPrepareCrossSections(RmModel* model);
+void vRmModelCommitCrossSections(RmModel* model);
+void vRmModelDiscardCrossSections(RmModel* model);
+
+RmSectionSet* RmModelGetLongSections(const RmModel* model);
+void vRmModelSetLongSections(RmModel* model, RmSectionSet* set);
+RmSectionSet* RmModelGetOrCreateLongSections(RmModel* model);
+RmSectionSet* RmModelGetLongSectionsPending(const RmModel* model);
+RmSectionSet* RmModelGetLongSectionsEffective(const RmModel* model);
+RmSectionSet* RmModelPrepareLongSections(RmModel* model);
+void vRmModelCommitLongSections(RmModel* model);
+void vRmModelDiscardLongSections(RmModel* model);

@@ -1,6 +1,7 @@
 // The model settings that have a pending slot: BUILDMODE, CALCMODE,
 // TUNNELMODE, CALCSTANDARD and REDUNDANTPOINTTOL.
 #include "road_model/model/model.h"
+#include "road_model/model/model_scalars.h"
 
 namespace {
 

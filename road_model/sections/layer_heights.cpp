@@ -5,6 +5,7 @@
 #include "base/numbers.h"
 #include "road_model/sections/layer_lookup.h"
 #include "road_model/codes/pcode.h"
+#include "road_model/sections/layer_sides.h"
 
 namespace {
 

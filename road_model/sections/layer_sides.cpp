@@ -1,5 +1,5 @@
-// Where the sides of a layer begin, and walks outward from there by code and
-// by offset.
+#include "road_model/sections/layer_sides.h"
+
 #include <cmath>
 
 #include "road_model/sections/layer_lookup.h"

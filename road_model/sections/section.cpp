@@ -6,6 +6,7 @@
 #include "geometry/line.h"
 #include "road_model/sections/layer_compare.h"
 #include "road_model/codes/pcode.h"
+#include "road_model/sections/section_masses.h"
 
 namespace {
 

@@ -1,5 +1,5 @@
-// The results of the mass calculation that a section keeps, one per mass
-// type, with the outlines of locked sections.
+#include "road_model/sections/section_masses.h"
+
 #include "geometry/line.h"
 #include "road_model/sections/section.h"
 

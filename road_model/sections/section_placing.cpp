@@ -6,6 +6,7 @@
 #include "base/numbers.h"
 #include "geometry/line_measure.h"
 #include "road_model/lines/line_chainage.h"
+#include "road_model/lines/vertical_heights.h"
 #include "road_model/params/sect_params.h"
 #include "road_model/lines/vertical_line.h"
 

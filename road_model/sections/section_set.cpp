@@ -4,6 +4,7 @@
 #include <cstdlib>
 
 #include "geometry/line.h"
+#include "road_model/sections/section_masses.h"
 
 namespace {
 

@@ -1,5 +1,5 @@
-// Walking the cross sections of a model inside its work area: work that is
-// restricted to a range of chainages must not see the sections outside it.
+#include "road_model/sections/section_work_area.h"
+
 #include "road_model/model/model.h"
 #include "road_model/sections/section_set.h"
 

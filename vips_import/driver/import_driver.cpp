@@ -7,6 +7,7 @@
 #include "parameters/factory_settings.h"
 #include "road_model/model/model.h"
 #include "road_model/model/model_lines.h"
+#include "road_model/model/model_scalars.h"
 #include "vips_import/readers/alignments.h"
 #include "vips_import/readers/connected_models.h"
 #include "vips_import/readers/elevation_differences.h"

@@ -2,10 +2,10 @@
 
 #include <cmath>
 
+#include "road_model/model/model_parts.h"
 #include "road_model/sections/layer_transform.h"
 #include "road_model/model/model.h"
 #include "road_model/model/model_lines.h"
-#include "road_model/model/model_sections.h"
 #include "road_model/params/sect_params.h"
 #include "road_model/sections/section_placing.h"
 

@@ -6,6 +6,7 @@
 #include "design_model/design_model.h"
 #include "road_model/lines/line_alignment.h"
 #include "road_model/lines/line_fields.h"
+#include "road_model/lines/vertical_curves.h"
 #include "road_model/model/model_lines.h"
 #include "road_model/lines/vertical_line.h"
 #include "vips_import/driver/import_log.h"

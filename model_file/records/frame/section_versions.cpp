@@ -5,6 +5,7 @@
 #include "road_model/model/model.h"
 #include "road_model/model/model_lines.h"
 #include "road_model/codes/pcode.h"
+#include "road_model/model/model_parts.h"
 #include "road_model/sections/section_placing.h"
 
 namespace {

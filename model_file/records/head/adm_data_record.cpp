@@ -11,6 +11,7 @@
 #include "model_file/records/frame/record_line.h"
 #include "road_model/model/adm_data.h"
 #include "road_model/model/model.h"
+#include "road_model/model/model_parts.h"
 
 namespace {
 

@@ -11,6 +11,7 @@
 #include "model_file/records/frame/record_line.h"
 #include "road_model/model/hyperlinks.h"
 #include "road_model/model/model.h"
+#include "road_model/model/model_parts.h"
 
 bool boRmHyperlinksPresent(const RmModel* model) { return model->Hyperlinks != nullptr; }
 

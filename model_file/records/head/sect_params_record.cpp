@@ -5,6 +5,7 @@
 #include "model_file/records/head/head_records.h"
 #include "model_file/records/frame/record_line.h"
 #include "road_model/model/model.h"
+#include "road_model/model/model_parts.h"
 #include "road_model/params/sect_params.h"
 
 namespace {

@@ -9,6 +9,7 @@
 #include "model_file/records/lines/line_records.h"
 #include "model_file/records/frame/record_line.h"
 #include "road_model/lines/line_fields.h"
+#include "road_model/lines/vertical_curves.h"
 #include "road_model/model/model.h"
 #include "road_model/model/model_lines.h"
 #include "road_model/lines/vertical_line.h"

@@ -17,7 +17,8 @@
 #include "model_file/records/sections/section_point_line.h"
 #include "model_file/records/sections/section_records.h"
 #include "road_model/model/model.h"
-#include "road_model/model/model_sections.h"
+#include "road_model/model/model_parts.h"
+#include "road_model/sections/section_masses.h"
 #include "road_model/sections/section_placing.h"
 #include "road_model/sections/section_set.h"
 

@@ -9,6 +9,7 @@
 
 #include "base/file_times.h"
 #include "base/paths.h"
+#include "road_model/model/model_scalars.h"
 #include "road_model/params/road_dim_params.h"
 #include "road_model/params/sect_params.h"
 #include "road_model/params/sect_triangulation_params.h"

@@ -5,6 +5,8 @@
 #include "base/text.h"
 #include "road_model/model/adm_data.h"
 #include "road_model/model/hyperlinks.h"
+#include "road_model/model/model_parts.h"
+#include "road_model/model/model_scalars.h"
 #include "road_model/params/road_dim_params.h"
 #include "road_model/params/sect_params.h"
 #include "road_model/params/sect_triangulation_params.h"

@@ -12,6 +12,8 @@
 #include "road_model/lines/diff_altitudes.h"
 #include "road_model/lines/line_chainage.h"
 #include "road_model/lines/line_fields.h"
+#include "road_model/lines/vertical_curves.h"
+#include "road_model/lines/vertical_heights.h"
 #include "road_model/model/model_lines.h"
 #include "road_model/lines/vertical_line.h"
 #include "tests/support/model_file_text.h"

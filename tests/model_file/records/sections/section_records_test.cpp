@@ -13,10 +13,11 @@
 #include "geometry/line.h"
 #include "model_file/records/sections/section_point_line.h"
 #include "model_file/records/sections/section_records.h"
+#include "road_model/model/model_parts.h"
 #include "road_model/sections/layer_lookup.h"
 #include "road_model/model/model_lines.h"
-#include "road_model/model/model_sections.h"
 #include "road_model/params/sect_params.h"
+#include "road_model/sections/section_masses.h"
 #include "road_model/sections/section_set.h"
 #include "tests/support/model_file_text.h"
 
