@@ -49,29 +49,22 @@ inline LayerPtr MakeLayer(RmLayerId id, std::initializer_list<PointRow> rows) {
   return layer;
 }
 
+// One value of every point of the layer, from the first.
+template <typename Value>
+std::vector<Value> Column(const RmLayer* layer, Value (*of)(const RmPoint*)) {
+  std::vector<Value> values;
+  for (const RmPoint* point = RmPointsGetFirst(layer); point; point = point->Next) {
+    values.push_back(of(point));
+  }
+  return values;
+}
 inline std::vector<double> Offsets(const RmLayer* layer) {
-  std::vector<double> offsets;
-  for (const RmPoint* point = RmPointsGetFirst(layer); point; point = point->Next) {
-    offsets.push_back(point->X);
-  }
-  return offsets;
+  return Column<double>(layer, [](const RmPoint* point) -> double { return point->X; });
 }
-
 inline std::vector<double> Heights(const RmLayer* layer) {
-  std::vector<double> heights;
-  for (const RmPoint* point = RmPointsGetFirst(layer); point; point = point->Next) {
-    heights.push_back(point->Z);
-  }
-  return heights;
+  return Column<double>(layer, [](const RmPoint* point) -> double { return point->Z; });
 }
-
-inline std::vector<int> Codes(const RmLayer* layer) {
-  std::vector<int> codes;
-  for (const RmPoint* point = RmPointsGetFirst(layer); point; point = point->Next) {
-    codes.push_back(iRmPointGetPcode(point));
-  }
-  return codes;
-}
+inline std::vector<int> Codes(const RmLayer* layer) { return Column(layer, iRmPointGetPcode); }
 
 // The points of the layer from its first, by index.
 inline RmPoint* At(const RmLayer* layer, int index) {

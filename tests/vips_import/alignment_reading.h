@@ -3,13 +3,14 @@
 #pragma once
 
 #include <cstdio>
+#include <cstdlib>
 #include <memory>
 #include <string>
 
 #include <gtest/gtest.h>
 
 #include "design_model/design_model_builder.h"
-#include "model_file/records/frame/model_file.h"
+#include "model_file/records/frame/model_load.h"
 #include "road_model/model/model.h"
 #include "tests/support/model_file_text.h"
 
@@ -57,12 +58,13 @@ inline void vAddElevationDifference(NpDesignModel::InDataRecord& input, double f
   row.difference = difference;
 }
 
-// A log in a temporary file, whose text can be read at any time.
+// A log kept in memory, whose text can be read at any time.
 class LogStream {
  public:
-  LogStream() : file_(std::tmpfile()) {}
+  LogStream() : file_(open_memstream(&buffer_, &size_)) {}
   ~LogStream() {
     if (file_) std::fclose(file_);
+    std::free(buffer_);
   }
   LogStream(const LogStream&) = delete;
   LogStream& operator=(const LogStream&) = delete;
@@ -71,17 +73,12 @@ class LogStream {
 
   // Everything written so far.
   std::string Text() const {
-    std::string text;
-    if (!file_) return text;
-    std::fflush(file_);
-    std::rewind(file_);
-    char buffer[4096];
-    size_t count;
-    while ((count = std::fread(buffer, 1, sizeof buffer, file_)) > 0) text.append(buffer, count);
-    std::fseek(file_, 0, SEEK_END);
-    return text;
+    if (file_) std::fflush(file_);
+    return buffer_ ? std::string(buffer_, size_) : std::string();
   }
 
  private:
+  char* buffer_ = nullptr;
+  size_t size_ = 0;
   std::FILE* file_;
 };

@@ -13,9 +13,7 @@ TEST(Pcode, BuildsAndTakesApartTheDecimalParts) {
   EXPECT_EQ(iRmPcodeFamily(-30105), 3);
   EXPECT_EQ(iRmPcodeGroup(-30105), 1);
   EXPECT_EQ(iRmPcodeNumber(-30105), 5);
-}
 
-TEST(Pcode, CheckRefusesPartsOutOfRange) {
   EXPECT_FALSE(boRmPcodeCheck(0));      // group 0 needs a number
   EXPECT_TRUE(boRmPcodeCheck(1));       // a centre code
   EXPECT_FALSE(boRmPcodeCheck(90000));  // family 9
@@ -24,13 +22,21 @@ TEST(Pcode, CheckRefusesPartsOutOfRange) {
   EXPECT_FALSE(boRmPcodePairCheck(uRmPcodePair(30105, 0)));
 }
 
-TEST(Pcode, ReadsDecimalTextsInStrictMode) {
+TEST(Pcode, DecimalTextsReadAndPrintBothWays) {
+  const struct {
+    const char* text;
+    int code;
+  } rows[] = {{"3.01", 30100}, {"-3.0105", -30105}, {"0.0005", 5}, {"", 0}};
+  for (const auto& row : rows) {
+    EXPECT_EQ(iRmPcodeFromText(row.text), row.code) << row.text;
+    EXPECT_STREQ(sRmPcodeToText(row.code), row.text) << row.code;
+  }
   EXPECT_EQ(iRmPcodeFromText("3.0105"), 30105);
-  EXPECT_EQ(iRmPcodeFromText("-3.0105"), -30105);
-  EXPECT_EQ(iRmPcodeFromText("3.01"), 30100);
-  EXPECT_EQ(iRmPcodeFromText("0.0001"), 1);
-  EXPECT_EQ(iRmPcodeFromText(""), 0);
   EXPECT_EQ(iRmPcodeFromText(nullptr), 0);
+  EXPECT_STREQ(sRmPcodeToText(kRmPcodeSentinel), "");
+  EXPECT_DOUBLE_EQ(dRmPcodeToDouble(-30105), -3.0105);
+  EXPECT_EQ(dRmPcodeToDouble(0), 0.0);
+  // Strict reading refuses a family beyond 9.
   EXPECT_EQ(iRmPcodeFromDouble(12.5, true), 0);
   EXPECT_EQ(iRmPcodeFromDouble(12.5, false), 125000);
   EXPECT_EQ(iRmPcodeFromDoubleSide(3.0105, kRmSideLeft), -30105);
@@ -38,16 +44,6 @@ TEST(Pcode, ReadsDecimalTextsInStrictMode) {
   for (int code = 10000; code < 20000; ++code) {
     ASSERT_EQ(iRmPcodeFromDoubleStrict(dRmPcodeToDouble(code)), code) << code;
   }
-}
-
-TEST(Pcode, PrintsTheDecimalForm) {
-  EXPECT_EQ(std::string(sRmPcodeToText(30100)), "3.01");
-  EXPECT_EQ(std::string(sRmPcodeToText(-30105)), "-3.0105");
-  EXPECT_EQ(std::string(sRmPcodeToText(5)), "0.0005");
-  EXPECT_EQ(std::string(sRmPcodeToText(0)), "");
-  EXPECT_EQ(std::string(sRmPcodeToText(kRmPcodeSentinel)), "");
-  EXPECT_DOUBLE_EQ(dRmPcodeToDouble(-30105), -3.0105);
-  EXPECT_EQ(dRmPcodeToDouble(0), 0.0);
 }
 
 TEST(Pcode, ConvertsTheOldThreeDigitForm) {
@@ -59,12 +55,16 @@ TEST(Pcode, ConvertsTheOldThreeDigitForm) {
 }
 
 TEST(Pcode, StepsCarryBetweenNumbersAndGroups) {
-  EXPECT_EQ(iRmPcodeStep(30105, kRmSideRight, 3), 30108);
-  EXPECT_EQ(iRmPcodeStep(30100, kRmSideRight, -1), 30099);  // borrows from the group
-  EXPECT_EQ(iRmPcodeStep(30105, kRmSideLeft, 200), -30305);
-  EXPECT_EQ(iRmPcodeStep(30105, kRmSideRight, -10), 30000);
-  EXPECT_EQ(iRmPcodeStep(30150, kRmSideRight, 60), 30099);
-
+  const struct {
+    int code, side, steps, result;
+  } rows[] = {
+      {30105, kRmSideRight, 3, 30108},   {30100, kRmSideRight, -1, 30099},  // borrows a group
+      {30105, kRmSideLeft, 200, -30305}, {30105, kRmSideRight, -10, 30000},
+      {30150, kRmSideRight, 60, 30099},
+  };
+  for (const auto& row : rows) {
+    EXPECT_EQ(iRmPcodeStep(row.code, row.side, row.steps), row.result) << row.code << row.steps;
+  }
   int family = 2, group = 99, number = 99;
   vRmPcodeNextNumber(&family, &group, &number);
   EXPECT_EQ(family * 10000 + group * 100 + number, 30100);
@@ -128,12 +128,13 @@ TEST(LayerId, FileNumberRoundTripAndFilters) {
 }
 
 TEST(LayerId, DerivedLayersAndTheirGroups) {
-  EXPECT_TRUE(boRmLayerIsDerived(RmLayerIdMake(kRmLayerPhysical, 82)));
+  const RmLayerId physical82 = RmLayerIdMake(kRmLayerPhysical, 82);
+  EXPECT_TRUE(boRmLayerIsDerived(physical82));
   EXPECT_FALSE(boRmLayerIsDerived(RmLayerIdMake(kRmLayerPhysical, 85)));
   EXPECT_TRUE(boRmLayerIsDerived(RmLayerIdMake(kRmLayerTheoretical, 97)));
   EXPECT_FALSE(boRmLayerIsDerived(RmLayerIdMake(kRmLayerTheoretical, 96)));
-  EXPECT_TRUE(boRmLayerDerivedFromGroup(RmLayerIdMake(kRmLayerPhysical, 82), 3));
-  EXPECT_FALSE(boRmLayerDerivedFromGroup(RmLayerIdMake(kRmLayerPhysical, 82), 2));
+  EXPECT_TRUE(boRmLayerDerivedFromGroup(physical82, 3));
+  EXPECT_FALSE(boRmLayerDerivedFromGroup(physical82, 2));
   EXPECT_TRUE(boRmLayerDerivedFromGroup(RmLayerIdMake(kRmLayerPhysical, 96), 3));
   EXPECT_FALSE(boRmLayerDerivedFromGroup(RmLayerIdMake(kRmLayerPhysical, 97), 3));
   EXPECT_EQ(iRmLayerDerivedKind(RmLayerIdMake(kRmLayerTheoretical, 97)), 3);
@@ -142,19 +143,15 @@ TEST(LayerId, DerivedLayersAndTheirGroups) {
   EXPECT_TRUE(boRmLayerIsSurfaceKind(RmLayerIdMake(kRmLayerTheoreticalLike, 5)));
 }
 
-TEST(CodeFilter, ItemsAndRanges) {
+TEST(CodeRanges, FiltersAndOpenAndClosedEnds) {
   EXPECT_TRUE(boRmCodeFilterMatches(nullptr, 12345));
   const char* filter = " 1.0000:2.0000 , 3.05 ";
-  EXPECT_TRUE(boRmCodeFilterMatches(filter, 15000));
-  EXPECT_TRUE(boRmCodeFilterMatches(filter, 30500));
-  EXPECT_FALSE(boRmCodeFilterMatches(filter, 25000));
-  EXPECT_FALSE(boRmCodeFilterMatches(filter, -15000));
+  for (int code : {15000, 30500}) EXPECT_TRUE(boRmCodeFilterMatches(filter, code)) << code;
+  for (int code : {25000, -15000}) EXPECT_FALSE(boRmCodeFilterMatches(filter, code)) << code;
   EXPECT_TRUE(boRmCodeFilterHasFamilyEight("-8.05"));
   EXPECT_TRUE(boRmCodeFilterHasFamilyEight("8.0001:8.0001"));
   EXPECT_FALSE(boRmCodeFilterHasFamilyEight("7.0:7.99"));
-}
 
-TEST(Ranges, OpenAndClosedEnds) {
   uint64_t codes = uRmPcodePair(100, 200);
   EXPECT_TRUE(boRmCodeRangeContainsLowClosed(codes, 100));
   EXPECT_FALSE(boRmCodeRangeContainsLowClosed(codes, 200));

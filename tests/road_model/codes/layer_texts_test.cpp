@@ -12,6 +12,7 @@
 #include "road_model/codes/layer_texts.h"
 #include "road_model/model/model.h"
 #include "road_model/codes/pcode.h"
+#include "tests/support/model_ptr.h"
 #include "tests/support/scratch_folder.h"
 
 namespace {
@@ -58,20 +59,27 @@ int64_t iPair(uint32_t type, int number) {
 
 }  // namespace
 
-TEST_F(LayerTexts, DefaultNamesComeFromTheTableOfTheType) {
-  EXPECT_STREQ(sRmLayerIdDefaultName(RmLayerIdMake(1, 6)), "Planum");
-  EXPECT_STREQ(sRmLayerIdDefaultName(RmLayerIdMake(3, 6)), "Planum");
-  EXPECT_STREQ(sRmLayerIdDefaultName(RmLayerIdMake(2, 6)), "Fjell");
-  EXPECT_STREQ(sRmLayerIdDefaultName(RmLayerIdMake(4, 6)), "Fjell");
-  EXPECT_STREQ(sRmLayerIdDefaultName(RmLayerIdMake(9, 2)), "Tunnelheng");
-  EXPECT_STREQ(sRmLayerIdDefaultName(RmLayerIdMake(8, 6)), "");
-  EXPECT_STREQ(sRmLayerIdDefaultName(RmLayerIdMake(1, 55)), "");
-}
-
-TEST_F(LayerTexts, ALayerTextPrefersTheModelsOwnName) {
-  EXPECT_STREQ(sLayerText(nullptr, 1, 6), "Teo   6: Planum");
-  EXPECT_STREQ(sLayerText(nullptr, 2, 123), "Fys 123: ");
-  EXPECT_STREQ(sLayerText(nullptr, 7, 1), "   1: ");
+TEST_F(LayerTexts, ALayerTextNamesTheTypeAndTheDefaultNameAndReadsBackToItsPair) {
+  const struct {
+    int type, number;
+    const char* name;  // the default name of the layer
+    const char* text;
+  } rows[] = {
+      {1, 6, "Planum", "Teo   6: Planum"},   {3, 6, "Planum", "TeoA   6: Planum"},
+      {2, 6, "Fjell", "Fys   6: Fjell"},     {4, 6, "Fjell", "FysA   6: Fjell"},
+      {9, 2, "Tunnelheng", "Avan   2: Tunnelheng"},
+      {8, 6, "", "Kons. lag   6: "},      {1, 55, "", "Teo  55: "},
+      {2, 123, "", "Fys 123: "},          {7, 1, "", "   1: "},
+  };
+  for (const auto& row : rows) {
+    RmLayerId id = RmLayerIdMake(row.type, row.number);
+    EXPECT_STREQ(sRmLayerIdDefaultName(id), row.name) << row.text;
+    EXPECT_STREQ(sLayerText(nullptr, row.type, row.number), row.text);
+    if (row.type <= 4 || row.type == 9) {
+      EXPECT_EQ(iLayerFromText(row.text), iPair(row.type, row.number)) << row.text;
+    }
+  }
+  // The model's own name comes first; a layer without one has the default.
   LayerNamesFixture names;
   names.Add(1, 6, "Eget planum");
   names.Add(1, 9, nullptr);
@@ -97,20 +105,16 @@ TEST_F(LayerTexts, AShortTextDropsWhatFollowsTheFirstPoint) {
   EXPECT_STREQ(sLayerShortText(&names.names, 2, 2), "Fys   2: Stopp.");
 }
 
-TEST_F(LayerTexts, ALayerTextReadsBackToItsPair) {
-  EXPECT_EQ(iLayerFromText("Teo   6: Planum"), iPair(1, 6));
-  EXPECT_EQ(iLayerFromText(sLayerText(nullptr, 2, 123)), iPair(2, 123));
-  EXPECT_EQ(iLayerFromText(sLayerText(nullptr, 9, 2)), iPair(9, 2));
+TEST_F(LayerTexts, ATextReadsBackOnlyWithAKnownWordANumberAndAColon) {
   // The word matches a short name that begins with it: "Te" is type 1 before 3.
   EXPECT_EQ(iLayerFromText("Te 5: x"), iPair(1, 5));
   EXPECT_EQ(iLayerFromText("TeoA 5: x"), iPair(3, 5));
   EXPECT_EQ(iLayerFromText("Teo 1:2: x"), iPair(1, 12));
-  EXPECT_EQ(iLayerFromText("Kant 5: x"), 0);
-  EXPECT_EQ(iLayerFromText("Teo 5 uten kolon"), 0);
-  EXPECT_EQ(iLayerFromText(": Teo 5"), 0);
-  EXPECT_EQ(iLayerFromText(""), 0);
+  const std::string tooLong = std::string(300, 'T') + " 5: x";
+  for (const char* text : {"Kant 5: x", "Teo 5 uten kolon", ": Teo 5", "", tooLong.c_str()}) {
+    EXPECT_EQ(iLayerFromText(text), 0) << text;
+  }
   EXPECT_EQ(iLayerFromText(nullptr), 0);
-  EXPECT_EQ(iLayerFromText((std::string(300, 'T') + " 5: x").c_str()), 0);
 
   EXPECT_EQ(iLayerFromTextFor("Fys   6: Fjell", 2, 4), iPair(2, 6));
   EXPECT_EQ(iLayerFromTextFor("Teo   6: Planum", 2, 4), 0);
@@ -141,43 +145,38 @@ TEST(LayerRelations, DerivedPhysicalLayersStandForTheirGroups) {
 }
 
 TEST(LayerRelations, CalculationIdsTakeTheModelsTypes) {
-  RmModel* model = RmModelCreate();
-  vRmModelSetCalcTheo(model, 3);
-  vRmModelSetCalcPhys(model, 4);
-  RmLayerId theo = RmLayerIdForCalc(model, RmLayerIdMake(1, 6));
+  ModelPtr model = NewModel();
+  vRmModelSetCalcTheo(model.get(), 3);
+  vRmModelSetCalcPhys(model.get(), 4);
+  RmLayerId theo = RmLayerIdForCalc(model.get(), RmLayerIdMake(1, 6));
   EXPECT_EQ(theo.Type, 3u);
   EXPECT_EQ(theo.Number, 6);
-  EXPECT_EQ(RmLayerIdForCalc(model, RmLayerIdMake(4, 11)).Type, 4u);
-  EXPECT_EQ(RmLayerIdForCalc(model, RmLayerIdMake(2, 11)).Type, 4u);
-  EXPECT_EQ(RmLayerIdForCalc(model, RmLayerIdMake(9, 11)).Type, 9u);
-  vRmModelDelete(model);
+  EXPECT_EQ(RmLayerIdForCalc(model.get(), RmLayerIdMake(4, 11)).Type, 4u);
+  EXPECT_EQ(RmLayerIdForCalc(model.get(), RmLayerIdMake(2, 11)).Type, 4u);
+  EXPECT_EQ(RmLayerIdForCalc(model.get(), RmLayerIdMake(9, 11)).Type, 9u);
 }
 
 TEST(CodeLists, CodesLieInItemsAndRanges) {
   const char* list = "1.01:1.99,3.05";
-  EXPECT_TRUE(boCodeInList(list, iRmPcodeFromText("1.50")));
-  EXPECT_FALSE(boCodeInList(list, iRmPcodeFromText("2.00")));
-  EXPECT_TRUE(boCodeInList(list, 30500));
-  EXPECT_TRUE(boCodeInList(list, 10100));
-  EXPECT_TRUE(boCodeInList(list, 19900));
-  EXPECT_FALSE(boCodeInList(list, 30501));
+  for (int code : {15000, 10100, 19900, 30500}) EXPECT_TRUE(boCodeInList(list, code)) << code;
+  for (int code : {20000, 30501}) EXPECT_FALSE(boCodeInList(list, code)) << code;
+  // No list holds every code; a list of nothing but commas holds none.
   EXPECT_TRUE(boCodeInList("", 12345));
   EXPECT_TRUE(boCodeInList(nullptr, 12345));
+  EXPECT_FALSE(boCodeInList(",,", 0));
   EXPECT_TRUE(boCodeInList("-3.05 , (2.01:2.05)", -30500));
   EXPECT_TRUE(boCodeInList("-3.05 , (2.01:2.05)", 20300));
-  EXPECT_FALSE(boCodeInList(",,", 0));
 }
 
 TEST(CodeLists, AscendingOrderIsCheckedAcrossItemsAndGroups) {
-  EXPECT_TRUE(boCodeListIsAscending(""));
   EXPECT_TRUE(boCodeListIsAscending(nullptr));
-  EXPECT_TRUE(boCodeListIsAscending("1.01:1.99,3.05"));
-  EXPECT_TRUE(boCodeListIsAscending("-2.01,1.05 (1.06:1.10)"));
-  EXPECT_FALSE(boCodeListIsAscending("3.05,1.01"));
-  EXPECT_FALSE(boCodeListIsAscending("1.99:1.01"));
-  // "1.5-1" is one number: the "-" inside it starts nothing new.
-  EXPECT_TRUE(boCodeListIsAscending("1.5-1,2"));
-  // A group must close within its item.
-  EXPECT_FALSE(boCodeListIsAscending("(1.01,1.02)"));
-  EXPECT_TRUE(boCodeListIsAscending("1.01,(1.02"));
+  // "1.5-1" is one number: the "-" inside it starts nothing new. A group
+  // must close within its item.
+  for (const char* list : {"", "1.01:1.99,3.05", "-2.01,1.05 (1.06:1.10)", "1.5-1,2",
+                           "1.01,(1.02"}) {
+    EXPECT_TRUE(boCodeListIsAscending(list)) << list;
+  }
+  for (const char* list : {"3.05,1.01", "1.99:1.01", "(1.01,1.02)"}) {
+    EXPECT_FALSE(boCodeListIsAscending(list)) << list;
+  }
 }

@@ -5,7 +5,10 @@
 #include "geometry/line_measure.h"
 #include "road_model/lines/line_alignment.h"
 #include "road_model/lines/line_chainage.h"
+#include "road_model/lines/vertical_curves.h"
+#include "road_model/lines/vertical_heights.h"
 #include "road_model/lines/vertical_line.h"
+#include "tests/support/owned.h"
 
 namespace {
 
@@ -42,31 +45,32 @@ struct Expected {
 
 // The line: straight, clothoid, arc of three quarters, straight.
 struct Alignment {
-  RmLines* lines = RmLinesCreate();
-  RmLine* line = nullptr;
+  Owned<RmLines, vRmLinesDelete> lines{RmLinesCreate()};
+  RmLine* line = RmLinesAddWithId(lines, 1, false);
   ViPoint2d arcCenter{};
   double arcStartAngle = 0.0;
 
   Alignment() {
-    line = RmLinesAddWithId(lines, 1, false);
-    vRmLineSetStartChain(line, kStartChain);
-    LiLineAddP(line, 0.0, 0.0, 0.0);
-    LiElm clothoid = LiLineAddP(line, kStraight, 0.0, 0.0);
     ViPoint2d clothoidEnd = ClothoidPoint(kClothoidLength);
-    LiElm arc = LiLineAddP(line, clothoidEnd.x, clothoidEnd.y, 0.0);
-    EXPECT_TRUE(boLiElmSetClotoide(line, clothoid, 0.0, kRadius, std::sqrt(kRadius * kClothoidLength)));
     double theta = ClothoidDirection(kClothoidLength);
-    arcCenter = {clothoidEnd.x - kRadius * std::sin(theta), clothoidEnd.y + kRadius * std::cos(theta)};
+    arcCenter = {clothoidEnd.x - kRadius * std::sin(theta),
+                 clothoidEnd.y + kRadius * std::cos(theta)};
     arcStartAngle = theta - M_PI / 2.0;
-    double endAngle = arcStartAngle + kSweep;
-    ViPoint2d arcEnd{arcCenter.x + kRadius * std::cos(endAngle), arcCenter.y + kRadius * std::sin(endAngle)};
-    LiLineAddP(line, arcEnd.x, arcEnd.y, 0.0);
-    EXPECT_TRUE(boLiElmSet2pArc(line, arc, kRadius, true));
-    double leave = endAngle + M_PI / 2.0;
-    LiLineAddP(line, arcEnd.x + kLastStraight * std::cos(leave), arcEnd.y + kLastStraight * std::sin(leave),
-               0.0);
+    vRmLineSetStartChain(line, kStartChain);
+    // The points where the pieces meet; the clothoid and the arc are set on
+    // their start points.
+    double chain = kStartChain;
+    for (double length : {0.0, kStraight, kClothoidLength, kSweep * kRadius, kLastStraight}) {
+      chain += length;
+      LiLineAddP(line, At(chain).point.x, At(chain).point.y, 0.0);
+    }
+    EXPECT_TRUE(boLiElmSetClotoide(line, 1, 0.0, kRadius, std::sqrt(kRadius * kClothoidLength)));
+    EXPECT_TRUE(boLiElmSet2pArc(line, 2, kRadius, true));
   }
-  ~Alignment() { vRmLinesDelete(&lines); }
+
+  ViPoint2d OnArc(double angle) const {
+    return {arcCenter.x + kRadius * std::cos(angle), arcCenter.y + kRadius * std::sin(angle)};
+  }
 
   // Where the line is at `chain`, worked out piece by piece.
   Expected At(double chain) const {
@@ -75,16 +79,13 @@ struct Alignment {
     s -= kStraight;
     if (s <= kClothoidLength) return {ClothoidPoint(s), ClothoidDirection(s)};
     s -= kClothoidLength;
-    double arcLength = kSweep * kRadius;
-    if (s <= arcLength) {
+    if (s <= kSweep * kRadius) {
       double angle = arcStartAngle + s / kRadius;
-      return {{arcCenter.x + kRadius * std::cos(angle), arcCenter.y + kRadius * std::sin(angle)},
-              angle + M_PI / 2.0};
+      return {OnArc(angle), angle + M_PI / 2.0};
     }
-    s -= arcLength;
-    double endAngle = arcStartAngle + kSweep;
-    ViPoint2d arcEnd{arcCenter.x + kRadius * std::cos(endAngle), arcCenter.y + kRadius * std::sin(endAngle)};
-    double leave = endAngle + M_PI / 2.0;
+    s -= kSweep * kRadius;
+    ViPoint2d arcEnd = OnArc(arcStartAngle + kSweep);
+    double leave = arcStartAngle + kSweep + M_PI / 2.0;
     return {{arcEnd.x + s * std::cos(leave), arcEnd.y + s * std::sin(leave)}, leave};
   }
 };
@@ -110,7 +111,8 @@ TEST(LineChainage, PointAtChainAndBackOnStraightsArcsAndClothoids) {
     EXPECT_NEAR(AngleDifference(tangent, expected.direction), 0.0, 1e-7) << chain;
 
     double back = 0.0, offset = 1.0;
-    ASSERT_TRUE(boRmLineChainAtPoint(alignment.line, point.x, point.y, 0.5, &back, &offset)) << chain;
+    ASSERT_TRUE(boRmLineChainAtPoint(alignment.line, point.x, point.y, 0.5, &back, &offset))
+        << chain;
     EXPECT_NEAR(back, chain, 1e-6) << chain;
     EXPECT_NEAR(offset, 0.0, 1e-6) << chain;
   }
@@ -130,7 +132,8 @@ TEST(LineChainage, OffsetsAreSquareToTheLineAndNegativeToTheLeft) {
       EXPECT_NEAR(back, chain, 1e-6);
       EXPECT_NEAR(side, offset, 1e-6);
       double distance = 0.0;
-      EXPECT_EQ(iRmLineSideOf(alignment.line, point.x, point.y, -1.0, &distance), offset < 0 ? -1 : 1);
+      EXPECT_EQ(iRmLineSideOf(alignment.line, point.x, point.y, -1.0, &distance),
+                offset < 0 ? -1 : 1);
       EXPECT_NEAR(distance, offset, 1e-6);
     }
   }
@@ -159,7 +162,7 @@ TEST(LineChainage, EndsAndMisses) {
 }
 
 TEST(LineHeight, VerticalLineFirstThenTheLineItself) {
-  RmLines* lines = RmLinesCreate();
+  Owned<RmLines, vRmLinesDelete> lines(RmLinesCreate());
   RmLine* flat = RmLinesAddWithId(lines, 1, false);
   LiLineAddP(flat, 0.0, 0.0, 5.0);
   LiLineAddP(flat, 100.0, 0.0, 5.0);
@@ -181,7 +184,6 @@ TEST(LineHeight, VerticalLineFirstThenTheLineItself) {
   RmVerPointAdd(verLine, 300.0, 3.0, 0.0, 0.0);
   iRmVerLineCompute(verLine);
   vRmLineSetVerLine(lines, spatial, verLine);
-  EXPECT_EQ(verLine->Lines, lines);
   double slope = 0.0;
   EXPECT_NEAR(dRmLineHeightAt(spatial, 250.0, &slope), 2.0, 1e-12);
   EXPECT_DOUBLE_EQ(slope, 0.02);
@@ -194,18 +196,17 @@ TEST(LineHeight, VerticalLineFirstThenTheLineItself) {
   EXPECT_EQ(high, 3.0);
   RmChainRange outside{400.0, 500.0};
   EXPECT_FALSE(boRmLineHeightRange(verLine, spatial, &outside, &low, &high));
-  vRmLinesDelete(&lines);
-  EXPECT_EQ(lines, nullptr);
 }
 
 TEST(LineAlignment, ElementsBecomeStraightsArcsAndClothoids) {
-  RmLines* lines = RmLinesCreate();
+  Owned<RmLines, vRmLinesDelete> lines(RmLinesCreate());
   RmLine* line = RmLinesAddWithId(lines, 3, false);
   const double half = 50.0 * M_PI;
   vRmLineSetStartChain(line, 99.0);
   // A half circle exactly is the smaller arc; three quarters are the larger.
   RmLineAddAlignmentElement(line, {0.0, half, 50.0, 50.0, 0.0, 0, 0, 0, 100}, true);
-  RmLineAddAlignmentElement(line, {half, 2.5 * half, -50.0, -50.000001, 0.0, 0, 100, -50, 150}, false);
+  RmLineAddAlignmentElement(line, {half, 2.5 * half, -50.0, -50.000001, 0.0, 0, 100, -50, 150},
+                            false);
   RmLineAddAlignmentElement(line, {0.0, 9.0, 0.0, 100.0, 30.0, -50, 150, -59, 150}, false);
   RmLineAddAlignmentElement(line, {0.0, 10.0, 0.0, 0.0, 0.0, -59, 150, -69, 150}, false);
   EXPECT_EQ(dRmLineGetStartChain(line), 0.0);
@@ -223,5 +224,4 @@ TEST(LineAlignment, ElementsBecomeStraightsArcsAndClothoids) {
   RmLineAddAlignmentElement(line, {500.0, 510.0, 0.0, 0.0, 0.0, 0, 0, 10, 0}, true);
   EXPECT_EQ(iLiLineGetElmCount(line), 7);
   EXPECT_EQ(dRmLineGetStartChain(line), 500.0);
-  vRmLinesDelete(&lines);
 }

@@ -25,11 +25,9 @@ std::vector<double> NormalisedOffsets(std::initializer_list<PointRow> rows) {
 
 // The offsets of the points with a height, and of the gaps as -100 - x.
 std::vector<double> Shape(const RmLayer* layer) {
-  std::vector<double> shape;
-  for (const RmPoint* point = RmPointsGetFirst(layer); point; point = point->Next) {
-    shape.push_back(boRmPointHasHeight(point) ? point->X : -100.0 - point->X);
-  }
-  return shape;
+  return Column<double>(layer, [](const RmPoint* point) -> double {
+    return boRmPointHasHeight(point) ? point->X : -100.0 - point->X;
+  });
 }
 
 }  // namespace
@@ -150,10 +148,8 @@ TEST(LayerTransform, HeightsAndOffsetsMoveAndGapsStayGaps) {
   EXPECT_EQ(Heights(layer.get()), (std::vector<double>{1.5, kGap, 3.5}));
   vRmLayerTransform(layer.get(), kRmLayerShift, -1.0);
   EXPECT_EQ(Offsets(layer.get()), (std::vector<double>{-1, 0, 1}));
-  vRmLayerTransform(layer.get(), 4, 10.0);
+  vRmLayerTransform(layer.get(), 4, 10.0);  // no such transform
   EXPECT_EQ(Offsets(layer.get()), (std::vector<double>{-1, 0, 1}));
-  vRmLayerSetMark(layer.get(), 3);
-  EXPECT_EQ(iRmPointGetMark(At(layer.get(), 1)), 3);
 }
 
 TEST(LayerTransform, AParallelKeepsCodesAndClosedOutlinesStayClosed) {

@@ -1,22 +1,30 @@
 // Sections in plan and in space: offsets to plan points, the tilted plane,
 // placing on a plan line, and the centre heights that the vertical lines
-// read.
+// read, raised by the differences of their ranges.
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <memory>
 #include <numbers>
+#include <string>
+#include <utility>
 
+#include "base/log_file.h"
+#include "base/session.h"
 #include "geometry/line.h"
 #include "road_model/lines/diff_altitudes.h"
+#include "road_model/lines/vertical_curves.h"
+#include "road_model/lines/vertical_heights.h"
 #include "road_model/model/model.h"
 #include "road_model/model/model_lines.h"
-#include "road_model/model/model_sections.h"
+#include "road_model/model/model_parts.h"
 #include "road_model/params/sect_params.h"
 #include "road_model/sections/section_center_height.h"
+#include "road_model/sections/section_heights.h"
 #include "road_model/sections/section_placing.h"
 #include "road_model/lines/vertical_line.h"
 #include "tests/road_model/layer_test_util.h"
+#include "tests/support/scratch_folder.h"
 
 namespace {
 
@@ -35,6 +43,24 @@ ModelPtr ModelWithCentreLine() {
   RmVerPointAdd(verLine, 100.0, 11.0, 0.0, 0.0);
   iRmVerLineCompute(verLine);
   vRmLineSetVerLine(RmModelGetLines(model.get()), line, verLine);
+  return model;
+}
+
+// The model above with cross sections at 20 (centre height 20), 40 (22) and
+// 60 (none), and a difference of 0.5 for the centre line from 10 to 80.
+ModelPtr ModelWithDifferences() {
+  ModelPtr model = ModelWithCentreLine();
+  vRmModelSetCalcPhys(model.get(), 2);
+  RmSectionSet* set = RmModelGetOrCreateCrossSections(model.get());
+  for (auto [chain, height] : {std::pair{20.0, 20.0}, {40.0, 22.0}, {60.0, kGap}}) {
+    vAddRows(RmLayerAdd(RmSectionAdd(set, nullptr, chain), RmLayerIdMake(2, 1)),
+             {{-1, height}, {1, height}});
+  }
+  RmVerLine* verLine = RmLineGetVerLine(RmModelGetCenterLine(model.get()));
+  verLine->DiffAltitudes = RmDiffAltitudesCreate();
+  RmDiffAltitude* range = RmDiffAltitudeAdd(verLine->DiffAltitudes, 10.0);
+  vRmDiffAltitudeSetRange(range, 10.0, 80.0);
+  vRmDiffAltitudeSetHeight(range, 0.5);
   return model;
 }
 
@@ -138,31 +164,62 @@ TEST(SectionCenterHeight, ThePhysicalLayersAreAskedFromTheTopGroupDown) {
   EXPECT_EQ(dRmSectionGetCenterHeight(model.get(), section.get()), -99999.0);
 }
 
-TEST(SectionCenterHeight, VerticalLinesFollowTheCrossSectionsInsideADifferenceRange) {
-  ModelPtr model = ModelWithCentreLine();
-  vRmModelSetCalcPhys(model.get(), 2);
-  RmSectionSet* set = RmModelGetOrCreateCrossSections(model.get());
-  vAddRows(RmLayerAdd(RmSectionAdd(set, nullptr, 20.0), RmLayerIdMake(2, 1)),
-           {{-1, 20}, {1, 20}});
-  vAddRows(RmLayerAdd(RmSectionAdd(set, nullptr, 40.0), RmLayerIdMake(2, 1)),
-           {{-1, 22}, {1, 22}});
+TEST(DiffAwareHeight, InsideARangeTheLineFollowsTheCrossSectionsRaisedByTheDifference) {
+  ModelPtr model = ModelWithDifferences();
   RmLine* line = RmModelGetCenterLine(model.get());
   RmVerLine* verLine = RmLineGetVerLine(line);
-  verLine->DiffAltitudes = RmDiffAltitudesCreate();
-  RmDiffAltitude* range = RmDiffAltitudeAdd(verLine->DiffAltitudes, 10.0);
-  vRmDiffAltitudeSetRange(range, 10.0, 60.0);
-  vRmDiffAltitudeSetHeight(range, 0.5);
-
+  double slope = 0.0;
+  // Outside the range: the vertical line itself.
+  EXPECT_NEAR(dRmVerLineHeightDiffAware(verLine, 5.0, &slope), 10.05, 1e-12);
+  EXPECT_DOUBLE_EQ(slope, 0.01);
+  // On a section, and between two: its height raised by the difference.
+  EXPECT_DOUBLE_EQ(dRmVerLineHeightDiffAware(verLine, 20.0, nullptr), 20.5);
+  EXPECT_NEAR(dRmVerLineHeightDiffAware(verLine, 20.0002, nullptr), 20.50002, 1e-9);
+  EXPECT_DOUBLE_EQ(dRmVerLineHeightDiffAware(verLine, 39.9996, nullptr), 22.5);
   EXPECT_NEAR(dRmLineHeightAt(line, 30.0, nullptr), 21.5, 1e-12);
-  EXPECT_NEAR(dRmLineHeightAt(line, 40.0, nullptr), 22.5, 1e-12);
-  // Before the first section, and beyond the last, the line's own height.
-  EXPECT_NEAR(dRmLineHeightAt(line, 15.0, nullptr), 10.15, 1e-12);
-  EXPECT_NEAR(dRmLineHeightAt(line, 50.0, nullptr), 10.5, 1e-12);
-
+  // No section before the first one, and none with a height beyond 40.
+  EXPECT_NEAR(dRmVerLineHeightDiffAware(verLine, 15.0, nullptr), 10.15, 1e-12);
+  EXPECT_NEAR(dRmVerLineHeightDiffAware(verLine, 50.0, nullptr), 10.5, 1e-12);
+  // The plain evaluation ignores the table.
+  EXPECT_NEAR(dRmVerLineHeightAt(verLine, 30.0, nullptr), 10.3, 1e-12);
   RmSectionHeights heights{};
   EXPECT_TRUE(boRmCrossSectionHeights(model.get(), 25.0, &heights));
   EXPECT_EQ(heights.NextChain, 40.0);
   EXPECT_EQ(heights.PreviousHeight, 20.0);
+
+  // Without a source of section heights, without cross sections and without
+  // a model the line gives its own height.
+  RmSectionHeightsSource source = pfnRmSetSectionHeightsSource(nullptr);
+  EXPECT_NEAR(dRmVerLineHeightDiffAware(verLine, 30.0, nullptr), 10.3, 1e-12);
+  pfnRmSetSectionHeightsSource(source);
   vRmModelSetCrossSections(model.get(), nullptr);
   EXPECT_FALSE(boRmCrossSectionHeights(model.get(), 25.0, &heights));
+  EXPECT_NEAR(dRmVerLineHeightDiffAware(verLine, 30.0, nullptr), 10.3, 1e-12);
+  RmModelGetLines(model.get())->Model = nullptr;
+  EXPECT_NEAR(dRmVerLineHeightDiffAware(verLine, 30.0, nullptr), 10.3, 1e-12);
+  EXPECT_EQ(dRmVerLineHeightDiffAware(nullptr, 30.0, nullptr), -99999.0);
+}
+
+TEST(DiffAwareHeight, AMissingSlopeIsLoggedOncePerConversion) {
+  ModelPtr model = ModelWithDifferences();
+  RmVerLine* verLine = RmLineGetVerLine(RmModelGetCenterLine(model.get()));
+  ScratchFolder folder;
+  std::string oldLog = sLogGetFileName();
+  vLogSetFileName((folder / "conversion.log").c_str());
+  // A conversion of its own: a new context is the primary one (null) or is
+  // selected here.
+  SessionContext* ownSession = pSessionCreate();
+  if (ownSession) vSessionSelect(ownSession);
+
+  double slope = 7.0;
+  EXPECT_NEAR(dRmVerLineHeightDiffAware(verLine, 30.0, &slope), 21.5, 1e-12);
+  EXPECT_NEAR(dRmVerLineHeightDiffAware(verLine, 40.0, &slope), 22.5, 1e-12);
+  EXPECT_EQ(slope, 7.0);
+  std::string log = sReadWholeFile(folder / "conversion.log");
+  const std::string message = "Not able calc verline slope on diffaltitudes (chain 30.000)";
+  EXPECT_NE(log.find(message), std::string::npos) << log;
+  EXPECT_EQ(log.find("Not able", log.find(message) + 1), std::string::npos) << log;
+
+  vSessionDelete(ownSession);
+  vLogSetFileName(oldLog.c_str());
 }

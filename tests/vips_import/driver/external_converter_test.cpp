@@ -5,6 +5,7 @@
 #include <dlfcn.h>
 
 #include <filesystem>
+#include <memory>
 #include <string>
 
 #include "kvrvips/kvrvips.h"
@@ -14,55 +15,60 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// A copy of the library kvrvips in a folder of its own, with the
-// design-model library beside it, loaded for one test.
-class CopiedLibrary {
- public:
-  // `converterExitCode` chooses the stand-in that is placed beside the copy
-  // as kvrvips_convert_gen; a negative code places none.
-  CopiedLibrary(const std::string& folder, int converterExitCode) {
-    fs::copy_file(KVRVIPS_LIBRARY, folder + "/libkvrvips.so");
-    fs::copy_file(KVRVIPS_DESIGN_MODEL_LIBRARY,
-                  folder + "/" + fs::path(KVRVIPS_DESIGN_MODEL_LIBRARY).filename().string());
-    if (converterExitCode >= 0) {
-      std::string converter = folder + "/kvrvips_convert_gen";
-      fs::copy_file(std::string(KVRVIPS_CONVERTERS_DIR) + "/kvrvips_converter_exit_" +
-                        std::to_string(converterExitCode),
-                    converter);
-      fs::permissions(converter, fs::perms::owner_all);
-    }
-    handle_ = dlopen((folder + "/libkvrvips.so").c_str(), RTLD_NOW | RTLD_LOCAL);
-    if (handle_) {
-      convert_ = reinterpret_cast<decltype(&iKvrVipsConvertDatabase)>(
-          dlsym(handle_, "iKvrVipsConvertDatabase"));
-    }
-  }
-  ~CopiedLibrary() {
-    if (handle_) dlclose(handle_);
-  }
-  CopiedLibrary(const CopiedLibrary&) = delete;
-  CopiedLibrary& operator=(const CopiedLibrary&) = delete;
-
-  bool loaded() const { return convert_ != nullptr; }
-
-  // Converts with the converter run first and returns the result; the log's
-  // content goes to `log`.
-  int Convert(const std::string& design, const std::string& modelFile, std::string* log) const {
-    char* logFile = nullptr;
-    int result = convert_(design.c_str(), modelFile.c_str(), KVRVIPS_IMPORT_FULL, &logFile,
-                          sShippedSettings().c_str(), 0, 1);
-    *log = logFile ? sReadWholeFile(logFile) : "<no log path>";
-    return result;
-  }
-
- private:
-  void* handle_ = nullptr;
-  decltype(&iKvrVipsConvertDatabase) convert_ = nullptr;
+struct LibraryCloser {
+  void operator()(void* handle) const { dlclose(handle); }
 };
 
-// The scratch folder's path as the library sees its own: links resolved.
-std::string sCanonical(const ScratchFolder& folder) {
-  return fs::canonical(folder.path()).string();
+struct ConverterRun {
+  int result = -1;
+  std::string log;
+  std::string arguments;  // those the converter was given, one a line
+  std::string modelFile;
+};
+
+// Converts a design at `design` in a fresh folder through a copy of the
+// library kvrvips there, with the design-model library beside it and, as
+// kvrvips_convert_gen, the stand-in that exits with `exitCode` (none where
+// it is negative); a model file of `oldModel` lies there first, if any. In the
+// texts, "@" stands for the folder as the library sees it: links resolved.
+ConverterRun RunWithConverter(int exitCode, const std::string& design, const std::string& oldModel) {
+  ScratchFolder scratch;
+  std::string folder = fs::canonical(scratch.path()).string();
+  fs::copy_file(KVRVIPS_LIBRARY, folder + "/libkvrvips.so");
+  fs::copy_file(KVRVIPS_DESIGN_MODEL_LIBRARY,
+                folder + "/" + fs::path(KVRVIPS_DESIGN_MODEL_LIBRARY).filename().string());
+  if (exitCode >= 0) {
+    fs::copy_file(std::string(KVRVIPS_CONVERTERS_DIR) + "/kvrvips_converter_exit_" +
+                      std::to_string(exitCode),
+                  folder + "/kvrvips_convert_gen");
+    fs::permissions(folder + "/kvrvips_convert_gen", fs::perms::owner_all);
+  }
+  fs::create_directories(fs::path(folder + "/" + design).parent_path());
+  vWriteWholeFile(folder + "/" + design, sDesignDocument(sInputOf("10.0", 1)));
+  if (!oldModel.empty()) vWriteWholeFile(folder + "/veg.sfi", oldModel);
+
+  ConverterRun run;
+  std::unique_ptr<void, LibraryCloser> library(
+      dlopen((folder + "/libkvrvips.so").c_str(), RTLD_NOW | RTLD_LOCAL));
+  auto convert = library ? reinterpret_cast<decltype(&iKvrVipsConvertDatabase)>(
+                               dlsym(library.get(), "iKvrVipsConvertDatabase"))
+                         : nullptr;
+  if (!convert) {
+    ADD_FAILURE() << dlerror();
+    return run;
+  }
+  char* logFile = nullptr;
+  run.result = convert((folder + "/" + design).c_str(), (folder + "/veg.sfi").c_str(),
+                       KVRVIPS_IMPORT_FULL, &logFile, sShippedSettings().c_str(), 0, 1);
+  run.log = logFile ? sReadWholeFile(logFile) : "<no log path>";
+  run.arguments = sReadWholeFile(folder + "/kvrvips_convert_gen.arguments");
+  run.modelFile = sReadWholeFile(folder + "/veg.sfi");
+  for (std::string* text : {&run.log, &run.arguments}) {
+    for (size_t at; (at = text->find(folder)) != std::string::npos;) {
+      text->replace(at, folder.size(), "@");
+    }
+  }
+  return run;
 }
 
 // A full import of a design without alignments or tables.
@@ -72,64 +78,36 @@ const std::string kFullLog = sLogHead("Np21", "Road", "10.0") +
                              "Leser tabell: Min. gr\xF8" "fte dybde\n\n";
 
 TEST(ExternalConverter, SuccessGoesOnToOpenTheDesign) {
-  ScratchFolder folder;
-  std::string library = sCanonical(folder);
-  CopiedLibrary copy(library, 1001);
-  ASSERT_TRUE(copy.loaded()) << dlerror();
-  std::string design = library + "/veg.json";
-  vWriteWholeFile(design, sDesignDocument(sInputOf("10.0", 1)));
-
-  std::string log;
-  EXPECT_EQ(copy.Convert(design, library + "/veg.sfi", &log), 0);
-  EXPECT_EQ(log, kFullLog);
-  EXPECT_EQ(sReadWholeFile(library + "/kvrvips_convert_gen.arguments"), design + "\n");
-  EXPECT_TRUE(fs::exists(library + "/veg.sfi"));
+  // A path with blanks reaches the converter as several arguments.
+  const struct {
+    std::string design, arguments;
+  } cases[] = {{"veg.json", "@/veg.json\n"}, {"med blank/veg.json", "@/med\nblank/veg.json\n"}};
+  for (const auto& test : cases) {
+    ConverterRun run = RunWithConverter(1001, test.design, "");
+    EXPECT_EQ(run.result, 0) << test.design;
+    EXPECT_EQ(run.log, kFullLog) << test.design;
+    EXPECT_EQ(run.arguments, test.arguments);
+    EXPECT_EQ(run.modelFile.rfind("[KVRFILE_ASCII]\r\n", 0), 0u) << test.design;
+  }
 }
 
 TEST(ExternalConverter, EveryOtherExitCodeFailsTheImportAndLeavesTheModelFile) {
-  struct Case {
+  const struct {
     int exitCode;  // -1: no converter beside the library
     std::string log;
-  };
-  const Case cases[] = {
+  } cases[] = {
       {1, "Feil kode 1: Feil ved kj\xF8ring av @/kvrvips_convert_gen\n"},
       {1000, "Feil kode 0: GEN / VEG / TER / MAS / VPR / HOR / VRT ikke funnet\n"},
       {999, "Feil kode -1: Feil ved konvertering av VIPS gen database\n"},
       {0, "\n"},
       {-1, "\n"},
   };
-  for (const Case& test : cases) {
-    ScratchFolder folder;
-    std::string library = sCanonical(folder);
-    CopiedLibrary copy(library, test.exitCode);
-    ASSERT_TRUE(copy.loaded()) << dlerror();
-    std::string design = library + "/veg.json";
-    vWriteWholeFile(design, sDesignDocument(sInputOf("10.0", 1)));
-    vWriteWholeFile(library + "/veg.sfi", "old model file");
-
-    std::string expected = test.log;
-    if (size_t at = expected.find('@'); at != std::string::npos) expected.replace(at, 1, library);
-    std::string log;
-    EXPECT_EQ(copy.Convert(design, library + "/veg.sfi", &log), -1) << test.exitCode;
-    EXPECT_EQ(log, expected) << test.exitCode;
-    EXPECT_EQ(sReadWholeFile(library + "/veg.sfi"), "old model file") << test.exitCode;
+  for (const auto& test : cases) {
+    ConverterRun run = RunWithConverter(test.exitCode, "veg.json", "old model file");
+    EXPECT_EQ(run.result, -1) << test.exitCode;
+    EXPECT_EQ(run.log, test.log) << test.exitCode;
+    EXPECT_EQ(run.modelFile, "old model file") << test.exitCode;
   }
-}
-
-TEST(ExternalConverter, APathWithBlanksReachesTheConverterAsSeveralArguments) {
-  ScratchFolder folder;
-  std::string library = sCanonical(folder);
-  CopiedLibrary copy(library, 1001);
-  ASSERT_TRUE(copy.loaded()) << dlerror();
-  fs::create_directory(library + "/med blank");
-  std::string design = library + "/med blank/veg.json";
-  vWriteWholeFile(design, sDesignDocument(sInputOf("10.0", 1)));
-
-  std::string log;
-  EXPECT_EQ(copy.Convert(design, library + "/veg.sfi", &log), 0);
-  EXPECT_EQ(sReadWholeFile(library + "/kvrvips_convert_gen.arguments"),
-            library + "/med\nblank/veg.json\n");
-  EXPECT_EQ(log, kFullLog);
 }
 
 }  // namespace

@@ -6,8 +6,10 @@
 
 #include "kvrvips/kvrvips.h"
 #include "geometry/line.h"
+#include "model_file/records/frame/model_save.h"
 #include "road_model/model/model.h"
 #include "road_model/model/model_lines.h"
+#include "road_model/model/model_scalars.h"
 #include "tests/vips_import/alignment_reading.h"
 #include "tests/vips_import/conversion_fixtures.h"
 #include "vips_import/driver/version_labels.h"
@@ -103,81 +105,55 @@ TEST(ConvertDatabase, AFailedOpenLeavesTheModelFileByteForByte) {
   EXPECT_EQ(sReadWholeFile(modelFile), before);
 }
 
-TEST(ConvertDatabase, FlagsZeroLogsTheDesignAndEmptiesThePlanLinesAlone) {
-  ScratchFolder folder;
-  std::string modelFile = folder / "veg.sfi";
-  vSaveWorkedModel(modelFile);
-  vWriteWholeFile(folder / "bane.json", sDesignDocument(sInputOf("8.200005", 2)));
+TEST(ConvertDatabase, TheFlagsAndTheInputSideDecideWhatOfTheLoadedModelStays) {
+  const std::string connected = R"(,"connectedWSModels":[
+      {"fromChainage":10,"toChainage":20.5,"wsModel":"Gr\u00f8ft A"},
+      {"fromChainage":-5.125,"toChainage":0,"wsModel":"Kanal \u0416"}])";
+  const struct {
+    std::string input;  // the design's input side
+    uint32_t flags;
+    std::string log;
+    double version;  // the design's model version; 0 where it has none
+    const char* market;
+    int roadType, calcMode, lineCount;
+  } cases[] = {
+      // Flags zero log the design and empty the plan lines alone.
+      {sInputOf("8.200005", 2), 0, sLogHead("Np20", "Railway", "8.2"), 8.200005, "Nor", 4, 3, 0},
+      // A full import resets the model but keeps its guid; a WS design names
+      // no road type.
+      {sInputOf("9.0", 3), KVRVIPS_IMPORT_FULL,
+       sLogHead("Unknown", "WS", "9.0") + kNoAlignments + kTablesHeading + "\n", 9.0, "", 0, 0, 0},
+      // The tables list the connected models without resetting the model.
+      {sInputOf("8.1", 1, connected), KVRVIPS_IMPORT_TABLES,
+       sLogHead("Np19.20", "Road", "8.1") + kTablesHeading +
+           "Gr\xF8" "ftemodel:\t10.000\t20.500\tGr\xF8" "ft A\n"
+           "Gr\xF8" "ftemodel:\t-5.125\t0.000\tKanal ?\n\n",
+       8.1, "Nor", 4, 0, 0},
+      // A design without input side is neither logged nor read for
+      // alignments, and resets nothing; the tables start all the same.
+      {"null", KVRVIPS_IMPORT_FULL, "\n", 0.0, "Nor", 4, 0, 2},
+  };
+  for (const auto& test : cases) {
+    SCOPED_TRACE(test.input);
+    ScratchFolder folder;
+    std::string modelFile = folder / "veg.sfi";
+    vSaveWorkedModel(modelFile);
+    vWriteWholeFile(folder / "veg.json", sDesignDocument(test.input));
 
-  Conversion conversion = Convert(folder / "bane.json", modelFile, 0);
-  EXPECT_EQ(conversion.result, 0);
-  EXPECT_EQ(conversion.log, sLogHead("Np20", "Railway", "8.2"));
-  EXPECT_DOUBLE_EQ(VipsModelVersion, 8.200005);
+    Conversion conversion = Convert(folder / "veg.json", modelFile, test.flags);
+    EXPECT_EQ(conversion.result, 0);
+    EXPECT_EQ(conversion.log, test.log);
+    if (test.version != 0.0) {
+      EXPECT_DOUBLE_EQ(VipsModelVersion, test.version);
+    }
 
-  ModelPtr model = Loaded(modelFile);
-  EXPECT_EQ(iRmLinesGetCount(RmModelGetLines(model.get())), 0);
-  EXPECT_STREQ(sRmModelGetMarket(model.get()), "Nor");
-  EXPECT_EQ(model->RoadType, 4);
-  EXPECT_EQ(model->CalcMode, 3);
-}
-
-TEST(ConvertDatabase, AFullImportResetsTheLoadedModelButKeepsItsGuid) {
-  ScratchFolder folder;
-  std::string modelFile = folder / "veg.sfi";
-  vSaveWorkedModel(modelFile);
-  vWriteWholeFile(folder / "ws.json", sDesignDocument(sInputOf("9.0", 3)));
-
-  Conversion conversion = Convert(folder / "ws.json", modelFile, KVRVIPS_IMPORT_FULL);
-  EXPECT_EQ(conversion.result, 0);
-  EXPECT_EQ(conversion.log,
-            sLogHead("Unknown", "WS", "9.0") + kNoAlignments + kTablesHeading + "\n");
-
-  ModelPtr model = Loaded(modelFile);
-  EXPECT_STREQ(sRmModelGetGuid(model.get()), "{5e1f}");
-  EXPECT_STREQ(sRmModelGetMarket(model.get()), "");
-  EXPECT_EQ(model->RoadType, 0);  // a WS design names no road type
-  EXPECT_EQ(model->CalcTheo, 3);
-  EXPECT_EQ(model->CalcPhys, 4);
-  EXPECT_EQ(iRmLinesGetCount(RmModelGetLines(model.get())), 0);
-}
-
-TEST(ConvertDatabase, TheTablesListTheConnectedModelsWithoutResettingTheModel) {
-  ScratchFolder folder;
-  std::string modelFile = folder / "veg.sfi";
-  vSaveWorkedModel(modelFile);
-  vWriteWholeFile(folder / "veg.json",
-                  sDesignDocument(sInputOf("8.1", 1, R"(,"connectedWSModels":[
-                    {"fromChainage":10,"toChainage":20.5,"wsModel":"Gr\u00f8ft A"},
-                    {"fromChainage":-5.125,"toChainage":0,"wsModel":"Kanal \u0416"}])")));
-
-  Conversion conversion = Convert(folder / "veg.json", modelFile, KVRVIPS_IMPORT_TABLES);
-  EXPECT_EQ(conversion.result, 0);
-  EXPECT_EQ(conversion.log, sLogHead("Np19.20", "Road", "8.1") + kTablesHeading +
-                                "Gr\xF8" "ftemodel:\t10.000\t20.500\tGr\xF8" "ft A\n"
-                                "Gr\xF8" "ftemodel:\t-5.125\t0.000\tKanal ?\n"
-                                "\n");
-
-  ModelPtr model = Loaded(modelFile);
-  EXPECT_EQ(model->RoadType, 4);
-  EXPECT_EQ(model->CalcMode, 0);
-  EXPECT_EQ(iRmLinesGetCount(RmModelGetLines(model.get())), 0);
-}
-
-TEST(ConvertDatabase, ADesignWithoutInputSideIsNeitherLoggedNorReadForAlignments) {
-  ScratchFolder folder;
-  std::string modelFile = folder / "veg.sfi";
-  vSaveWorkedModel(modelFile);
-  vWriteWholeFile(folder / "snitt.json", sDesignDocument("null"));
-
-  Conversion conversion = Convert(folder / "snitt.json", modelFile, KVRVIPS_IMPORT_FULL);
-  EXPECT_EQ(conversion.result, 0);
-  EXPECT_EQ(conversion.log, "\n");
-
-  // No reset and no emptied lines; the tables start all the same.
-  ModelPtr model = Loaded(modelFile);
-  EXPECT_EQ(iRmLinesGetCount(RmModelGetLines(model.get())), 2);
-  EXPECT_EQ(model->RoadType, 4);
-  EXPECT_EQ(model->CalcMode, 0);
+    ModelPtr model = Loaded(modelFile);
+    EXPECT_STREQ(sRmModelGetGuid(model.get()), "{5e1f}");
+    EXPECT_STREQ(sRmModelGetMarket(model.get()), test.market);
+    EXPECT_EQ(model->RoadType, test.roadType);
+    EXPECT_EQ(model->CalcMode, test.calcMode);
+    EXPECT_EQ(iRmLinesGetCount(RmModelGetLines(model.get())), test.lineCount);
+  }
 }
 
 TEST(ConvertDatabase, WithoutFactorySettingsNothingIsTouched) {
@@ -186,20 +162,19 @@ TEST(ConvertDatabase, WithoutFactorySettingsNothingIsTouched) {
   std::string modelFile = folder / "veg.sfi";
   CapturedMessages messages;
 
-  Conversion conversion = Convert(folder / "veg.json", modelFile, KVRVIPS_IMPORT_FULL, 0, "");
-  EXPECT_EQ(conversion.result, -1);
-  EXPECT_EQ(conversion.logPath, "<unset>");
-  EXPECT_FALSE(std::filesystem::exists(folder / "veg.log"));
-  EXPECT_FALSE(std::filesystem::exists(modelFile));
-
-  vSaveWorkedModel(modelFile);
-  std::string before = sReadWholeFile(modelFile);
-  conversion = Convert(folder / "veg.json", modelFile, KVRVIPS_IMPORT_FULL, 0,
-                       folder / "mangler.ini");
-  EXPECT_EQ(conversion.result, -1);
-  EXPECT_EQ(conversion.logPath, "<unset>");
-  EXPECT_FALSE(std::filesystem::exists(folder / "veg.log"));
-  EXPECT_EQ(sReadWholeFile(modelFile), before);
+  // No settings named and no model file; a settings file that is missing
+  // and a model file to keep.
+  for (const std::string& settings : {std::string(), folder / "mangler.ini"}) {
+    if (!settings.empty()) vSaveWorkedModel(modelFile);
+    std::string before = sReadWholeFile(modelFile);
+    Conversion conversion = Convert(folder / "veg.json", modelFile, KVRVIPS_IMPORT_FULL, 0,
+                                    settings);
+    EXPECT_EQ(conversion.result, -1);
+    EXPECT_EQ(conversion.logPath, "<unset>");
+    EXPECT_FALSE(std::filesystem::exists(folder / "veg.log"));
+    EXPECT_EQ(std::filesystem::exists(modelFile), !settings.empty());
+    EXPECT_EQ(sReadWholeFile(modelFile), before);
+  }
 
   char* logFile = nullptr;
   EXPECT_EQ(iKvrVipsConvertDatabase(nullptr, nullptr, 0, &logFile, nullptr, 0, 0), -1);

@@ -13,8 +13,9 @@
 
 #include "geometry/line_measure.h"
 #include "kvrvips/kvrvips.h"
-#include "model_file/records/frame/model_file.h"
+#include "model_file/records/frame/model_save.h"
 #include "road_model/lines/line_chainage.h"
+#include "road_model/lines/vertical_heights.h"
 #include "road_model/model/model_lines.h"
 #include "road_model/lines/vertical_line.h"
 #include "tests/vips_import/alignment_reading.h"
@@ -109,9 +110,7 @@ std::unique_ptr<DesignModelRecord> RoadDesign(bool withDifferences = true) {
 // The line section's head in the directory: the extent of all lines
 // (rounded outwards) and the fields.
 std::string sLineSectionHead(const std::string& extent, const std::string& fields) {
-  std::string extentLine = "_EXTENT " + extent + " ";
-  extentLine += std::string(70 - extentLine.size(), '!');
-  return "[L_]\r\n" + extentLine + "\r\n_FIELDNAMES " + fields + "\r\n";
+  return sCrLf({"[L_]", sExtentLine(extent), "_FIELDNAMES " + fields});
 }
 
 // The main line's extent: west to the end of the right arc at x 932.44,
@@ -260,14 +259,6 @@ void vExpectMainGeometry(const RmLine* line) {
   EXPECT_NEAR(dRmVerLineHeightAt(verLine, 1600.0, nullptr), 103.0, 1e-9);
 }
 
-// The model file loaded and saved again: its sections come out as they
-// went in.
-std::string sLoadedAndSavedAgain(const ScratchFolder& folder, ModelPtr* loaded) {
-  *loaded = Loaded(folder / "veg.sfi");
-  EXPECT_TRUE(boRmModelSave(loaded->get(), (folder / "again.sfi").c_str()));
-  return sReadWholeFile(folder / "again.sfi");
-}
-
 }  // namespace
 
 TEST(AlignmentConversion, AFullImportWritesEveryAlignmentAndLoadsBackTheSame) {
@@ -285,8 +276,10 @@ TEST(AlignmentConversion, AFullImportWritesEveryAlignmentAndLoadsBackTheSame) {
   EXPECT_EQ(sBody(converted.file, "[+O_VERLINE]"), kMainProfile + kFootwayProfile);
   EXPECT_EQ(sBody(converted.file, "[+O_DIFFALTITUDES]"), kDifferences);
 
-  ModelPtr loaded;
-  std::string again = sLoadedAndSavedAgain(folder, &loaded);
+  // Loaded and saved again, the sections come out as they went in.
+  ModelPtr loaded = Loaded(folder / "veg.sfi");
+  ASSERT_TRUE(boRmModelSave(loaded.get(), (folder / "again.sfi").c_str()));
+  std::string again = sReadWholeFile(folder / "again.sfi");
   EXPECT_EQ(sBody(again, "[+L_]"), kMainLine + kEdgeLine + kFootwayLine);
   EXPECT_EQ(sBody(again, "[+O_VERLINE]"), kMainProfile + kFootwayProfile);
   EXPECT_EQ(sBody(again, "[+O_DIFFALTITUDES]"), kDifferences);
@@ -295,56 +288,45 @@ TEST(AlignmentConversion, AFullImportWritesEveryAlignmentAndLoadsBackTheSame) {
 }
 
 TEST(AlignmentConversion, EachFlagReadsItsOwnPartOfTheAlignments) {
-  ScratchFolder folder;
-  std::unique_ptr<DesignModelRecord> design = RoadDesign();
-
-  // The main alignment alone, plan and profile, with its differences.
-  Converted converted = Convert(folder, *design, KVRVIPS_IMPORT_HORIZONTAL | KVRVIPS_IMPORT_VERTICAL);
-  ASSERT_EQ(converted.result, 0);
-  EXPECT_EQ(converted.log, kLogHead + kLogMain + kLogProfile + kLogDifferences);
-  EXPECT_NE(converted.file.find(sLineSectionHead("932 2000 1213 2201", "CHAIN;NAME;CL;")),
-            std::string::npos);
-  EXPECT_EQ(sBody(converted.file, "[+L_]"), kMainLine);
-  EXPECT_EQ(sBody(converted.file, "[+O_VERLINE]"), kMainProfile);
-  EXPECT_EQ(sBody(converted.file, "[+O_DIFFALTITUDES]"), kDifferences);
-  vExpectMainGeometry(RmModelGetCenterLine(Loaded(folder / "veg.sfi").get()));
-
-  // The others alone: no main line, so nothing marked as one.
-  converted = Convert(folder, *design, KVRVIPS_IMPORT_EXTRA_ALIGNMENTS);
-  ASSERT_EQ(converted.result, 0);
-  EXPECT_EQ(converted.log, kLogHead + kLogExtra);
-  EXPECT_NE(converted.file.find(sLineSectionHead("1000 1990 2066 3057", "CHAIN;NAME;CL;")),
-            std::string::npos);
-  EXPECT_EQ(sBody(converted.file, "[+L_]"), kEdgeLine + kFootwayLine);
-  EXPECT_EQ(sBody(converted.file, "[+O_VERLINE]"), kFootwayProfile);
-  EXPECT_EQ(sBody(converted.file, "[+O_DIFFALTITUDES]"), "<none>");
-  EXPECT_EQ(RmModelGetCenterLine(Loaded(folder / "veg.sfi").get()), nullptr);
-
-  // The main profile alone: its line has no plan and is no centre line, so
-  // the differences have no line to go to.
-  converted = Convert(folder, *design, KVRVIPS_IMPORT_VERTICAL);
-  ASSERT_EQ(converted.result, 0);
-  EXPECT_EQ(converted.log, kLogHead + kLogProfile + kLogDifferences);
-  EXPECT_NE(converted.file.find(sLineSectionHead("99999999 99999999 -99999999 -99999999",
-                                                 "CHAIN;NAME;")),
-            std::string::npos);
-  EXPECT_EQ(sBody(converted.file, "[+L_]"), sCrLf({
-                                                ":L 1",
-                                                "_EXTENT 99999999 99999999 -99999999 -99999999 ",
-                                                "_FIELDVALUES ;" GUID_1 ";",
-                                                "GUID ",
-                                                "/XY",
-                                            }));
-  EXPECT_EQ(sBody(converted.file, "[+O_VERLINE]"), kMainProfile);
-  EXPECT_EQ(sBody(converted.file, "[+O_DIFFALTITUDES]"), "<none>");
-}
-
-TEST(AlignmentConversion, WithoutElevationDifferencesTheLogGetsABlankLine) {
-  ScratchFolder folder;
-  Converted converted =
-      Convert(folder, *RoadDesign(false), KVRVIPS_IMPORT_HORIZONTAL | KVRVIPS_IMPORT_VERTICAL);
-  ASSERT_EQ(converted.result, 0);
-  EXPECT_EQ(converted.log, kLogHead + kLogMain + kLogProfile + kLogDifferences + "\n");
-  EXPECT_EQ(sBody(converted.file, "[+O_VERLINE]"), kMainProfile);
-  EXPECT_EQ(sBody(converted.file, "[+O_DIFFALTITUDES]"), "<none>");
+  const std::string noExtent = "99999999 99999999 -99999999 -99999999";
+  const std::string bareMainLine = sCrLf(
+      {":L 1", "_EXTENT " + noExtent + " ", "_FIELDVALUES ;" GUID_1 ";", "GUID ", "/XY"});
+  const struct {
+    uint32_t flags;
+    bool differences;  // whether the design has elevation differences
+    std::string log, extent, fields, lines, profiles, differenceRows;
+  } cases[] = {
+      // The main alignment alone, plan and profile, with its differences.
+      {KVRVIPS_IMPORT_HORIZONTAL | KVRVIPS_IMPORT_VERTICAL, true,
+       kLogMain + kLogProfile + kLogDifferences, "932 2000 1213 2201", "CHAIN;NAME;CL;",
+       kMainLine, kMainProfile, kDifferences},
+      // Without elevation differences the log gets a blank line.
+      {KVRVIPS_IMPORT_HORIZONTAL | KVRVIPS_IMPORT_VERTICAL, false,
+       kLogMain + kLogProfile + kLogDifferences + "\n", "932 2000 1213 2201", "CHAIN;NAME;CL;",
+       kMainLine, kMainProfile, "<none>"},
+      // The others alone: no main line, so nothing marked as one.
+      {KVRVIPS_IMPORT_EXTRA_ALIGNMENTS, true, kLogExtra, "1000 1990 2066 3057",
+       "CHAIN;NAME;CL;", kEdgeLine + kFootwayLine, kFootwayProfile, "<none>"},
+      // The main profile alone: its line has no plan and is no centre line,
+      // so the differences have no line to go to.
+      {KVRVIPS_IMPORT_VERTICAL, true, kLogProfile + kLogDifferences, noExtent, "CHAIN;NAME;",
+       bareMainLine, kMainProfile, "<none>"},
+  };
+  for (const auto& test : cases) {
+    SCOPED_TRACE(test.log);
+    ScratchFolder folder;
+    Converted converted = Convert(folder, *RoadDesign(test.differences), test.flags);
+    ASSERT_EQ(converted.result, 0);
+    EXPECT_EQ(converted.log, kLogHead + test.log);
+    EXPECT_NE(converted.file.find(sLineSectionHead(test.extent, test.fields)), std::string::npos);
+    EXPECT_EQ(sBody(converted.file, "[+L_]"), test.lines);
+    EXPECT_EQ(sBody(converted.file, "[+O_VERLINE]"), test.profiles);
+    EXPECT_EQ(sBody(converted.file, "[+O_DIFFALTITUDES]"), test.differenceRows);
+    ModelPtr loaded = Loaded(folder / "veg.sfi");
+    if (test.flags & KVRVIPS_IMPORT_HORIZONTAL) {
+      vExpectMainGeometry(RmModelGetCenterLine(loaded.get()));
+    } else {
+      EXPECT_EQ(RmModelGetCenterLine(loaded.get()), nullptr);
+    }
+  }
 }

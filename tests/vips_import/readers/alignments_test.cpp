@@ -3,8 +3,6 @@
 // does not reach.
 #include <gtest/gtest.h>
 
-#include <numbers>
-
 #include "geometry/line.h"
 #include "road_model/lines/diff_altitudes.h"
 #include "road_model/lines/line_fields.h"
@@ -52,34 +50,6 @@ TEST(ReadAlignments, TheCountTellsTheAlignmentsReadAndTheHeadingsTheirGeometry) 
   EXPECT_EQ(iVipsReadAlignments(design->GetI(), quiet.get(), nullptr, 1, 1, 1), 0);
   EXPECT_EQ(RmModelGetLines(bare.get()), nullptr);
   EXPECT_EQ(quiet.Text(), "");
-}
-
-TEST(ReadAlignments, OnlyAnArcLongerThanAHalfCircleIsTheLargeOne) {
-  // Arcs between the ends of a diameter: exactly half a circle to the left
-  // and to the right, and one a tenth of a millimetre longer.
-  const double half = 50.0 * std::numbers::pi;
-  DesignModelBuilder builder;
-  builder.Input().referenceAlignmentId = 99;
-  vAddElement(builder.AddAlignment(1, u"V"), 0.0, half, 0.0, 0.0, 0.0, 100.0, 50.0, 50.0);
-  vAddElement(builder.AddAlignment(2, u"H"), 0.0, half, 0.0, 0.0, 0.0, 100.0, -50.0, -50.0);
-  vAddElement(builder.AddAlignment(3, u"L"), 0.0, half + 0.0001, 0.0, 0.0, 0.0, 100.0, 50.0, 50.0);
-  std::unique_ptr<DesignModelRecord> design = builder.Build();
-  ModelPtr model = ModelWithLines();
-  EXPECT_EQ(iVipsReadAlignments(design->GetI(), nullptr, model.get(), 0, 1, 0), 3);
-
-  const struct {
-    long id;
-    double radius;
-    bool large;
-  } expected[] = {{1, 50.0, false}, {2, -50.0, false}, {3, 50.0, true}};
-  for (const auto& arc : expected) {
-    RmLine* line = RmLinesFindById(Lines(model), arc.id);
-    ASSERT_EQ(iLiLineGetElmCount(line), 2) << arc.id;
-    // The arc is the piece of its start point.
-    EXPECT_EQ(LiElmGetType(line, 0), kLiElmArc2p) << arc.id;
-    EXPECT_EQ(dLiElmGetRadius(line, 0), arc.radius) << arc.id;
-    EXPECT_EQ(boLiElmIsLarge(line, 0), arc.large) << arc.id;
-  }
 }
 
 TEST(ReadAlignments, AlignmentsOfOneIdAreMergedAndTheLastProfileWins) {
