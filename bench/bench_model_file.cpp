@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <random>
 
-#include "model_file/records/frame/model_file.h"
+#include "model_file/records/frame/model_write.h"
 #include "road_model/model/model.h"
 #include "road_model/model/model_parts.h"
 #include "road_model/codes/pcode.h"

@@ -19,7 +19,8 @@
 #include <string>
 
 #include "bench/bench_model_file.h"
-#include "model_file/records/frame/model_file.h"
+#include "model_file/records/frame/model_load.h"
+#include "model_file/records/frame/model_write.h"
 #include "road_model/model/model.h"
 
 namespace {

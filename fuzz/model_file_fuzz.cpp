@@ -6,7 +6,8 @@
 
 #include "base/platform.h"
 #include "model_file/container/asf_file.h"
-#include "model_file/records/frame/model_file.h"
+#include "model_file/records/frame/model_load.h"
+#include "model_file/records/frame/model_write.h"
 #include "road_model/model/model.h"
 
 namespace {

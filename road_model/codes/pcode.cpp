@@ -259,3 +259,13 @@ int iRmSideStepDown(int* value) {
   }
   return *value;
 }
+
+int iRmPcodeFromOldForm(int code) {
+  int magnitude = std::abs(code);
+  int family = magnitude / 10000;
+  int rest = magnitude % 10000;
+  int group = rest >= 10 ? rest / 100 : rest;
+  int number = rest >= 10 ? rest % 100 : 0;
+  int converted = iRmPcodeBuild(family, group, number);
+  return code < 0 ? -converted : converted;
+}

@@ -20,6 +20,10 @@ inline constexpr int kRmSideRight = 2;
 
 // (family*100 + group)*100 + min(number, 99).
 int iRmPcodeBuild(int family, int group, int number);
+// The code of the older decimal form that files of DATAVERSION 0 hold: the
+// part behind the family was a group alone when it was below 10, and group
+// and number from 10 on (3.0005 was family 3, group 5). The sign is kept.
+int iRmPcodeFromOldForm(int code);
 int iRmPcodeBuild2(int family, int group);
 // The same, negated on the left side (side 1).
 int iRmPcodeBuildSide(int family, int group, int number, int side);

@@ -115,10 +115,9 @@ void vStartTables(VipsImportRun& run) {
 
 void vReadConnectedModels(VipsImportRun& run) { iVipsReadConnectedModels(run.in, run.log); }
 
-// Sets the sections apart from the tables in the log.
-// Sections are always made anew by the readers of the result side.
 void vClearSections(VipsImportRun& run) { vVipsClearSections(run.model); }
 
+// Sets the sections apart from the tables in the log.
 void vLogSectionsStart(VipsImportRun& run) { vVipsLogPrint(run.log, "\n"); }
 
 void vFitSectionsToMainLine(VipsImportRun& run) { vVipsFitSectionsToMainLine(run.model); }
@@ -134,9 +133,7 @@ void vWarnOfRehabilitation(VipsImportRun& run) {
 }
 
 // The import, in the order in which its steps must run. This list is the
-// one place where a reader of the design enters the import: a reader that is
-// not written yet is missing from it, and the comments name it where it
-// belongs.
+// one place where a reader of the design enters the import.
 constexpr VipsImportStep kImportSteps[] = {
     {0, VipsStepNeeds::kInput, vLogModelHeader},
     {kVipsImportFull, VipsStepNeeds::kInput, vResetModel},
@@ -147,32 +144,16 @@ constexpr VipsImportStep kImportSteps[] = {
     {kVipsImportHorizontal, VipsStepNeeds::kInput, vReadMainHorizontal},
     {kVipsImportVertical, VipsStepNeeds::kInput, vReadMainVertical},
     {kVipsImportExtraAlignments, VipsStepNeeds::kInput, vReadExtraAlignments},
-
-    // The tables, also when the design gave no object:
-    //   a new, empty RmSurfGen in place of the model's (kNothing)
+    // The tables, also when the design gave no object.
     {kVipsImportTables, VipsStepNeeds::kNothing, vStartTables},
-    // Table readers of the input side, in this order: surfaces come before
-    // the side tables that hang on their groups.
-    //   vVipsReadModelSettings, iVipsReadSurfaces, iVipsReadSurfaceBoundaries,
-    //   vVipsReadSurfaceEdgeAlignments, iVipsReadEmbankmentDitches,
-    //   iVipsReadRockShelves, iVipsReadDitchDepths, iVipsReadClosedDrainages,
     {kVipsImportTables, VipsStepNeeds::kInput, vReadConnectedModels},
-    //   iVipsReadPavement (sets rehabUsed), vVipsReadDetailedPavement,
-    //   iVipsReadTopSoilRemovals, iVipsReadSoftSpotRemovals
-
-    // Sections, always rebuilt from scratch:
+    // Sections, always rebuilt from scratch by the readers of the result
+    // side.
     {kVipsImportTables, VipsStepNeeds::kDesign, vClearSections},
     {kVipsImportTables, VipsStepNeeds::kDesign, vLogSectionsStart},
-    //   then, on the result side, vVipsReadPhysicalProfiles,
-    //   vVipsReadMiscLayers and vVipsReadTheoreticalProfiles (with the
-    //   RmSurfGen and modelType): the theoretical reader fills the sections
-    //   that the physical one made.
     {kVipsImportTables, VipsStepNeeds::kDesign, vWarnOfRehabilitation},
-
-    // Finishing, over all tables at once (kNothing):
-    //   vVipsAddFreeSurfaces(surfGen), then the section width (DISTLEFT,
-    //   DISTRIGHT) from the layers of types 4 and 3, and the cross sections
-    //   placed on the main line:
+    // Finishing, over all tables at once: the cross sections placed on the
+    // main line.
     {kVipsImportTables, VipsStepNeeds::kNothing, vFitSectionsToMainLine},
 };
 

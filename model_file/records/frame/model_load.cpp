@@ -1,5 +1,5 @@
-// Loading a road model file: the check of the file, the head keys and the
-// sections, read in the order of the record families.
+#include "model_file/records/frame/model_load.h"
+
 #include <climits>
 #include <cstdlib>
 #include <cstring>
@@ -11,6 +11,8 @@
 #include "base/paths.h"
 #include "base/text.h"
 #include "model_file/container/asf_file.h"
+#include "model_file/container/asf_sections.h"
+#include "model_file/records/frame/migrations.h"
 #include "model_file/records/frame/model_file.h"
 #include "model_file/records/frame/record_families.h"
 #include "road_model/model/model.h"
@@ -86,9 +88,11 @@ void vRmModelRead(AsfFile* file, RmModel* model, const char* path) {
   vReadHeadKeys(file, model);
 
   for (const RmRecordFamily* family : RmRecordFamiliesInReadOrder()) {
-    AsfSection* section = AsfSectionFind(file, family->SectionName, family->SectionType);
-    if (section) family->Read(file, section, model);
+    AsfSection* section =
+        AsfSectionFind(file, family->Keyword, iAsfTypeOfLetter(family->Letter));
+    if (section) family->Read(file, section, model, *family);
   }
+  vRmModelMigrate(model);
   if (loadCallback) loadCallback(model);
 }
 

@@ -1,8 +1,5 @@
-// Saving a road model file without ever putting a partly written file in
-// the place of a good one: the model is written under a temporary "$$$_"
-// name, and only a complete file, flushed to the disk, takes the target's
-// place. After a crash or a power cut the target is the old file or the new
-// one, whole.
+#include "model_file/records/frame/model_save.h"
+
 #include <algorithm>
 #include <cstring>
 #include <string>
@@ -11,7 +8,7 @@
 #include "base/paths.h"
 #include "base/platform.h"
 #include "base/temp_files.h"
-#include "model_file/records/frame/model_file.h"
+#include "model_file/records/frame/model_write.h"
 #include "road_model/model/model.h"
 
 namespace {

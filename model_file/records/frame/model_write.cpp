@@ -1,9 +1,10 @@
-// Writing a road model file: the head keys, then every record family that
-// the model has something for, in the order of the family table.
+#include "model_file/records/frame/model_write.h"
+
 #include <cstdio>
 #include <vector>
 
 #include "model_file/container/asf_file.h"
+#include "model_file/container/asf_sections.h"
 #include "model_file/records/frame/model_file.h"
 #include "model_file/records/frame/record_families.h"
 #include "road_model/model/model.h"
@@ -25,17 +26,17 @@ bool boRmModelWriteFile(AsfFile* file, const RmModel* model) {
   vAsfFileSetType(file, kRmModelFileType);
   vSetHeadKeys(file, model);
 
-  std::span<const RmRecordFamily> families = RmRecordFamiliesInWriteOrder();
+  std::span<const RmRecordFamily* const> families = RmRecordFamiliesInWriteOrder();
   std::vector<AsfSection*> sections(families.size(), nullptr);
   for (size_t i = 0; i < families.size(); ++i) {
-    const RmRecordFamily& family = families[i];
-    if (!family.Write || (family.HasContent && !family.HasContent(model))) continue;
-    sections[i] = AsfSectionAdd(file, family.SectionName, family.SectionType);
-    if (family.Prepare) family.Prepare(file, sections[i], model);
+    const RmRecordFamily& family = *families[i];
+    if (!family.Write || (family.HasContent && !family.HasContent(model, family))) continue;
+    sections[i] = AsfSectionAdd(file, family.Keyword, iAsfTypeOfLetter(family.Letter));
+    if (family.Prepare) family.Prepare(file, sections[i], model, family);
   }
   if (!boAsfFileWriteHead(file)) return false;
   for (size_t i = 0; i < families.size(); ++i) {
-    if (sections[i]) families[i].Write(file, sections[i], model);
+    if (sections[i]) families[i]->Write(file, sections[i], model, *families[i]);
   }
   return !boAsfFileWriteFailed(file);
 }

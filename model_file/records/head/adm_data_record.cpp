@@ -1,19 +1,19 @@
-// ADMDATA. PROJECTINFO and EMPLOYER go through the quoting helper.
-// PROJECTDESCR is line-encoded, the one text of the file that keeps its line
-// breaks: it stands in double quotes (unless it starts with one), each CR,
-// LF or CR LF is written as backslash and n, and the reader turns those back
-// into CR LF.
+#include "model_file/records/head/adm_data_record.h"
+
 #include <cstring>
 
 #include "base/fields.h"
 #include "base/text.h"
-#include "model_file/records/head/head_records.h"
 #include "model_file/records/frame/record_line.h"
 #include "road_model/model/adm_data.h"
 #include "road_model/model/model.h"
 #include "road_model/model/model_parts.h"
 
 namespace {
+
+constexpr char kProjectInfo[] = "PROJECTINFO";
+constexpr char kProjectDescr[] = "PROJECTDESCR";
+constexpr char kEmployer[] = "EMPLOYER";
 
 bool boHasText(const char* text) { return text && *text; }
 
@@ -45,40 +45,51 @@ void vLineDecode(char* text) {
   }
 }
 
-}  // namespace
+bool boPresent(const RmModel* model, const RmRecordFamily&) {
+  return RmModelGetAdmData(model) != nullptr;
+}
 
-bool boRmAdmDataPresent(const RmModel* model) { return model->AdmData != nullptr; }
-
-void vRmAdmDataWrite(AsfFile* file, AsfSection* section, const RmModel* model) {
+void vWrite(AsfFile* file, AsfSection* section, const RmModel* model, const RmRecordFamily&) {
   const RmAdmData* data = model->AdmData;
   char quoted[kRecordQuoteSize];
   if (boHasText(data->ProjectInfo)) {
-    boRecordWrite(file, section, "PROJECTINFO %s", sQuote(quoted, sizeof quoted, data->ProjectInfo));
+    boRecordWrite(file, section, "%s %s", kProjectInfo,
+                  sQuote(quoted, sizeof quoted, data->ProjectInfo));
   }
   if (boHasText(data->ProjectDescr)) {
     // The whole line, keyword and closing quote included, fits the buffer.
-    char encoded[kRecordLineSize - sizeof "PROJECTDESCR " + 1];
+    char encoded[kRecordLineSize - sizeof kProjectDescr - 1 + 1];
     vLineEncode(data->ProjectDescr, encoded, sizeof encoded);
-    boRecordWrite(file, section, "PROJECTDESCR %s", encoded);
+    boRecordWrite(file, section, "%s %s", kProjectDescr, encoded);
   }
   if (boHasText(data->Employer)) {
-    boRecordWrite(file, section, "EMPLOYER %s", sQuote(quoted, sizeof quoted, data->Employer));
+    boRecordWrite(file, section, "%s %s", kEmployer, sQuote(quoted, sizeof quoted, data->Employer));
   }
 }
 
-void vRmAdmDataRead(AsfFile* file, AsfSection* section, RmModel* model) {
+void vRead(AsfFile* file, AsfSection* section, RmModel* model, const RmRecordFamily&) {
   RmAdmData* data = RmAdmDataCreate();
   if (!data) return;
   for (RecordLine line; boRecordNextLine(file, section, &line);) {
-    if (std::strcmp(line.Token, "PROJECTINFO") == 0) {
+    if (std::strcmp(line.Token, kProjectInfo) == 0) {
       sHeapSet(&data->ProjectInfo, sRecordToken(&line));
-    } else if (std::strcmp(line.Token, "PROJECTDESCR") == 0) {
+    } else if (std::strcmp(line.Token, kProjectDescr) == 0) {
       sRecordToken(&line);
       vLineDecode(line.Token);
       sHeapSet(&data->ProjectDescr, line.Token);
-    } else if (std::strcmp(line.Token, "EMPLOYER") == 0) {
+    } else if (std::strcmp(line.Token, kEmployer) == 0) {
       sHeapSet(&data->Employer, sRecordToken(&line));
     }
   }
   vRmModelSetAdmData(model, data);
 }
+
+}  // namespace
+
+const RmRecordFamily kRmAdmDataFamily = {
+    .Keyword = "ADMDATA",
+    .Letter = 'O',
+    .HasContent = boPresent,
+    .Write = vWrite,
+    .Read = vRead,
+};

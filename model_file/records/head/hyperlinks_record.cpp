@@ -1,21 +1,22 @@
-// HYPERLINKSDATA. The model keeps its links as one text of entries
-// `name:target` with one blank between them; each entry with a target is one
-// line " name:target". The reader joins the lines that start with a blank,
-// without the blank of the first, and so gets that text back.
+#include "model_file/records/head/hyperlinks_record.h"
+
 #include <cstring>
 
 #include "base/fields.h"
 #include "base/text.h"
 #include "model_file/container/asf_file.h"
-#include "model_file/records/head/head_records.h"
 #include "model_file/records/frame/record_line.h"
 #include "road_model/model/hyperlinks.h"
 #include "road_model/model/model.h"
 #include "road_model/model/model_parts.h"
 
-bool boRmHyperlinksPresent(const RmModel* model) { return model->Hyperlinks != nullptr; }
+namespace {
 
-void vRmHyperlinksWrite(AsfFile* file, AsfSection* section, const RmModel* model) {
+bool boPresent(const RmModel* model, const RmRecordFamily&) {
+  return RmModelGetHyperlinks(model) != nullptr;
+}
+
+void vWrite(AsfFile* file, AsfSection* section, const RmModel* model, const RmRecordFamily&) {
   const char* cursor = model->Hyperlinks->Text;
   char entry[kRecordLineSize];
   while (boFieldNextList(&cursor, ' ', entry, sizeof entry)) {
@@ -26,7 +27,7 @@ void vRmHyperlinksWrite(AsfFile* file, AsfSection* section, const RmModel* model
   }
 }
 
-void vRmHyperlinksRead(AsfFile* file, AsfSection* section, RmModel* model) {
+void vRead(AsfFile* file, AsfSection* section, RmModel* model, const RmRecordFamily&) {
   RmHyperlinks* links = RmHyperlinksCreate();
   if (!links) return;
   bool first = true;
@@ -39,3 +40,13 @@ void vRmHyperlinksRead(AsfFile* file, AsfSection* section, RmModel* model) {
   }
   vRmModelSetHyperlinks(model, links);
 }
+
+}  // namespace
+
+const RmRecordFamily kRmHyperlinksFamily = {
+    .Keyword = "HYPERLINKSDATA",
+    .Letter = 'O',
+    .HasContent = boPresent,
+    .Write = vWrite,
+    .Read = vRead,
+};

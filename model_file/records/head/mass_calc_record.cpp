@@ -1,17 +1,37 @@
-// MASSCALC: the model's calculation settings, in every file. When the
-// section is there, each keyword that it leaves out takes its default; a
-// keyword without its number reads as 0. SUPERSTRUCTUREMODE belongs to the
-// surface tables object; a model without one writes 0.
-#include <cstring>
+#include "model_file/records/head/mass_calc_record.h"
 
-#include "model_file/records/head/head_records.h"
-#include "model_file/records/frame/record_line.h"
+#include "model_file/records/frame/keyword_lines.h"
 #include "road_model/model/model.h"
 
 namespace {
 
+// SUPERSTRUCTUREMODE belongs to the surface tables object; a model without
+// one writes 0, and the reader has nowhere to put it.
+constexpr RmKeywordLine<RmModel> kLines[] = {
+    {.Keyword = "BUILDMODE", .Format = "%d", .Integer = &RmModel::BuildMode},
+    {.Keyword = "CALCMODE", .Format = "%d", .Integer = &RmModel::CalcMode},
+    {.Keyword = "REDUNDANTPOINTTOL", .Format = "%.3lf", .Real = &RmModel::RedundantPointTol},
+    {.Keyword = "TUNNELMODE", .Format = "%d", .Integer = &RmModel::TunnelMode},
+    {.Keyword = "CALCSTANDARD", .Format = "%d", .Integer = &RmModel::CalcStandard},
+    {.Keyword = "CALCTHEO", .Format = "%d", .Integer = &RmModel::CalcTheo},
+    {.Keyword = "CALCPHYS", .Format = "%d", .Integer = &RmModel::CalcPhys},
+    {.Keyword = "ROADTYPE", .Format = "%d", .Integer = &RmModel::RoadType},
+    {.Keyword = "WORKAREA", .Format = "%d", .Integer = &RmModel::WorkArea},
+    {.Keyword = "WORKAREASTART",
+     .Format = "%.3lf",
+     .GetReal = [](const RmModel& model) { return model.WorkAreaRange.Low; },
+     .SetReal = [](RmModel* model, double value) { model->WorkAreaRange.Low = value; }},
+    {.Keyword = "WORKAREAEND",
+     .Format = "%.3lf",
+     .GetReal = [](const RmModel& model) { return model.WorkAreaRange.High; },
+     .SetReal = [](RmModel* model, double value) { model->WorkAreaRange.High = value; }},
+    {.Keyword = "SUPERSTRUCTUREMODE",
+     .Format = "%d",
+     .GetInteger = [](const RmModel&) { return int32_t{0}; }},
+};
+
 // The defaults of a MASSCALC section for the keywords that it leaves out.
-void vSetMassCalcDefaults(RmModel* model) {
+void vSetDefaults(RmModel* model) {
   model->BuildMode = 0;
   model->CalcMode = 1;
   model->RedundantPointTol = 0.001;
@@ -24,49 +44,20 @@ void vSetMassCalcDefaults(RmModel* model) {
   model->WorkAreaRange = RmChainRange{-99999.0, -99999.0};
 }
 
+void vWrite(AsfFile* file, AsfSection* section, const RmModel* model, const RmRecordFamily&) {
+  vRmKeywordLinesWrite<RmModel>(file, section, *model, kLines);
+}
+
+void vRead(AsfFile* file, AsfSection* section, RmModel* model, const RmRecordFamily&) {
+  vSetDefaults(model);
+  vRmKeywordLinesRead<RmModel>(file, section, model, kLines);
+}
+
 }  // namespace
 
-void vRmMassCalcWrite(AsfFile* file, AsfSection* section, const RmModel* model) {
-  boRecordWrite(file, section, "BUILDMODE %d", model->BuildMode);
-  boRecordWrite(file, section, "CALCMODE %d", model->CalcMode);
-  boRecordWrite(file, section, "REDUNDANTPOINTTOL %.3lf", model->RedundantPointTol);
-  boRecordWrite(file, section, "TUNNELMODE %d", model->TunnelMode);
-  boRecordWrite(file, section, "CALCSTANDARD %d", model->CalcStandard);
-  boRecordWrite(file, section, "CALCTHEO %d", model->CalcTheo);
-  boRecordWrite(file, section, "CALCPHYS %d", model->CalcPhys);
-  boRecordWrite(file, section, "ROADTYPE %d", model->RoadType);
-  boRecordWrite(file, section, "WORKAREA %d", model->WorkArea);
-  boRecordWrite(file, section, "WORKAREASTART %.3lf", model->WorkAreaRange.Low);
-  boRecordWrite(file, section, "WORKAREAEND %.3lf", model->WorkAreaRange.High);
-  boRecordWrite(file, section, "SUPERSTRUCTUREMODE %d", 0);
-}
-
-void vRmMassCalcRead(AsfFile* file, AsfSection* section, RmModel* model) {
-  vSetMassCalcDefaults(model);
-  for (RecordLine line; boRecordNextLine(file, section, &line);) {
-    const char* keyword = line.Token;
-    if (std::strcmp(keyword, "BUILDMODE") == 0) {
-      model->BuildMode = iRecordInteger(&line);
-    } else if (std::strcmp(keyword, "CALCMODE") == 0) {
-      model->CalcMode = iRecordInteger(&line);
-    } else if (std::strcmp(keyword, "REDUNDANTPOINTTOL") == 0) {
-      model->RedundantPointTol = dRecordNumber(&line);
-    } else if (std::strcmp(keyword, "TUNNELMODE") == 0) {
-      model->TunnelMode = iRecordInteger(&line);
-    } else if (std::strcmp(keyword, "CALCSTANDARD") == 0) {
-      model->CalcStandard = iRecordInteger(&line);
-    } else if (std::strcmp(keyword, "CALCTHEO") == 0) {
-      model->CalcTheo = iRecordInteger(&line);
-    } else if (std::strcmp(keyword, "CALCPHYS") == 0) {
-      model->CalcPhys = iRecordInteger(&line);
-    } else if (std::strcmp(keyword, "ROADTYPE") == 0) {
-      model->RoadType = iRecordInteger(&line);
-    } else if (std::strcmp(keyword, "WORKAREA") == 0) {
-      model->WorkArea = iRecordInteger(&line);
-    } else if (std::strcmp(keyword, "WORKAREASTART") == 0) {
-      model->WorkAreaRange.Low = dRecordNumber(&line);
-    } else if (std::strcmp(keyword, "WORKAREAEND") == 0) {
-      model->WorkAreaRange.High = dRecordNumber(&line);
-    }
-  }
-}
+const RmRecordFamily kRmMassCalcFamily = {
+    .Keyword = "MASSCALC",
+    .Letter = 'O',
+    .Write = vWrite,
+    .Read = vRead,
+};

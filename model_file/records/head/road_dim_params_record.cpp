@@ -1,11 +1,8 @@
-// ROADDIMPARAMS. A model of the Norwegian market with CLASSVERSION 0 is
-// written in the old form (speed, traffic, basic road, road and vehicle
-// class); every other model writes the road class and its version. The
-// reader takes all six keywords wherever they stand.
+#include "model_file/records/head/road_dim_params_record.h"
+
 #include <cstring>
 
 #include "base/text.h"
-#include "model_file/records/head/head_records.h"
 #include "model_file/records/frame/record_line.h"
 #include "road_model/model/model.h"
 #include "road_model/model/model_parts.h"
@@ -16,6 +13,13 @@ namespace {
 // The file keeps this many characters of a vehicle class.
 constexpr size_t kVehicleClassRead = 4;
 
+constexpr char kSpeed[] = "SPEED";
+constexpr char kYdt[] = "YDT";
+constexpr char kBasicRoad[] = "BASICROAD";
+constexpr char kRoadClass[] = "ROADCLASS";
+constexpr char kVehicleClass[] = "VEHICLECLASS";
+constexpr char kClassVersion[] = "CLASSVERSION";
+
 // A fixed field as a terminated text, also when it fills its whole array.
 template <size_t N>
 const char* sTerminated(const char (&field)[N], char (&out)[N + 1]) {
@@ -24,46 +28,58 @@ const char* sTerminated(const char (&field)[N], char (&out)[N + 1]) {
   return out;
 }
 
-}  // namespace
+bool boIs(const char* keyword, const char* name) { return std::strcmp(keyword, name) == 0; }
 
-bool boRmRoadDimParamsPresent(const RmModel* model) { return model->RoadDimParams != nullptr; }
+bool boPresent(const RmModel* model, const RmRecordFamily&) {
+  return RmModelGetRoadDimParams(model) != nullptr;
+}
 
-void vRmRoadDimParamsWrite(AsfFile* file, AsfSection* section, const RmModel* model) {
+void vWrite(AsfFile* file, AsfSection* section, const RmModel* model, const RmRecordFamily&) {
   const RmRoadDimParams* params = model->RoadDimParams;
   char roadClass[kRmRoadClassSize + 1];
   sTerminated(params->RoadClass, roadClass);
   if (boRmRoadDimParamsIsOldForm(params, model->Market)) {
     char vehicleClass[kRmVehicleClassSize + 1];
-    boRecordWrite(file, section, "SPEED %d", params->Speed);
-    boRecordWrite(file, section, "YDT %d", params->Ydt);
-    boRecordWrite(file, section, "BASICROAD %d", params->BasicRoad);
-    boRecordWrite(file, section, "ROADCLASS %s", roadClass);
-    boRecordWrite(file, section, "VEHICLECLASS %s",
+    boRecordWrite(file, section, "%s %d", kSpeed, params->Speed);
+    boRecordWrite(file, section, "%s %d", kYdt, params->Ydt);
+    boRecordWrite(file, section, "%s %d", kBasicRoad, params->BasicRoad);
+    boRecordWrite(file, section, "%s %s", kRoadClass, roadClass);
+    boRecordWrite(file, section, "%s %s", kVehicleClass,
                   sTerminated(params->VehicleClass, vehicleClass));
   } else {
-    boRecordWrite(file, section, "ROADCLASS %s", roadClass);
-    boRecordWrite(file, section, "CLASSVERSION %d", params->ClassVersion);
+    boRecordWrite(file, section, "%s %s", kRoadClass, roadClass);
+    boRecordWrite(file, section, "%s %d", kClassVersion, params->ClassVersion);
   }
 }
 
-void vRmRoadDimParamsRead(AsfFile* file, AsfSection* section, RmModel* model) {
+void vRead(AsfFile* file, AsfSection* section, RmModel* model, const RmRecordFamily&) {
   RmRoadDimParams* params = RmRoadDimParamsCreate();
   if (!params) return;
   for (RecordLine line; boRecordNextLine(file, section, &line);) {
     const char* keyword = line.Token;
-    if (std::strcmp(keyword, "SPEED") == 0) {
+    if (boIs(keyword, kSpeed)) {
       params->Speed = iRecordInteger(&line);
-    } else if (std::strcmp(keyword, "YDT") == 0) {
+    } else if (boIs(keyword, kYdt)) {
       params->Ydt = iRecordInteger(&line);
-    } else if (std::strcmp(keyword, "BASICROAD") == 0) {
+    } else if (boIs(keyword, kBasicRoad)) {
       params->BasicRoad = iRecordInteger(&line);
-    } else if (std::strcmp(keyword, "ROADCLASS") == 0) {
+    } else if (boIs(keyword, kRoadClass)) {
       sCopy(params->RoadClass, sRecordToken(&line), sizeof params->RoadClass);
-    } else if (std::strcmp(keyword, "VEHICLECLASS") == 0) {
+    } else if (boIs(keyword, kVehicleClass)) {
       sCopy(params->VehicleClass, sRecordToken(&line), kVehicleClassRead + 1);
-    } else if (std::strcmp(keyword, "CLASSVERSION") == 0) {
+    } else if (boIs(keyword, kClassVersion)) {
       params->ClassVersion = iRecordInteger(&line, params->ClassVersion);
     }
   }
   vRmModelSetRoadDimParams(model, params);
 }
+
+}  // namespace
+
+const RmRecordFamily kRmRoadDimParamsFamily = {
+    .Keyword = "ROADDIMPARAMS",
+    .Letter = 'O',
+    .HasContent = boPresent,
+    .Write = vWrite,
+    .Read = vRead,
+};

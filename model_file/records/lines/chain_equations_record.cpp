@@ -1,11 +1,8 @@
-// CHAINEQUATIONS: the chain equations of the plan lines. Each line with
-// equations has a group ":CHAINEQUATIONS id" and one row per equation: the
-// back chainage, the ahead chainage and the text. A file of the older form
-// holds the rows of the centre line alone, without a group line.
+#include "model_file/records/lines/chain_equations_record.h"
+
 #include <cstring>
 
 #include "base/numbers.h"
-#include "model_file/records/lines/line_records.h"
 #include "model_file/records/frame/record_line.h"
 #include "road_model/lines/chain_equations.h"
 #include "road_model/model/model.h"
@@ -14,6 +11,8 @@
 namespace {
 
 constexpr const char* kGroupKeyword = ":CHAINEQUATIONS";
+// The last DATAVERSION of the older form.
+constexpr int kLastOldFormVersion = 12;
 
 // The line's equations, made when it has none.
 RmChainEquations* LineEquations(RmLine* line) {
@@ -32,7 +31,9 @@ void vReadRow(RecordLine* row, RmChainEquations* equations) {
 
 }  // namespace
 
-bool boRmChainEquationsPresent(const RmModel* model) {
+namespace {
+
+bool boPresent(const RmModel* model, const RmRecordFamily&) {
   const RmLines* lines = RmModelGetLines(model);
   for (RmLine* line = RmLinesGetFirst(lines); line; line = RmLinesGetNext(lines, line)) {
     if (iRmChainEquationsGetCount(RmLineGetEquations(line)) > 0) return true;
@@ -40,7 +41,8 @@ bool boRmChainEquationsPresent(const RmModel* model) {
   return false;
 }
 
-void vRmChainEquationsWrite(AsfFile* file, AsfSection* section, const RmModel* model) {
+void vWrite(AsfFile* file, AsfSection* section, const RmModel* model,
+            const RmRecordFamily&) {
   const RmLines* lines = RmModelGetLines(model);
   for (RmLine* line = RmLinesGetFirst(lines); line; line = RmLinesGetNext(lines, line)) {
     const RmChainEquations* equations = RmLineGetEquations(line);
@@ -55,9 +57,9 @@ void vRmChainEquationsWrite(AsfFile* file, AsfSection* section, const RmModel* m
   }
 }
 
-void vRmChainEquationsRead(AsfFile* file, AsfSection* section, RmModel* model) {
+void vRead(AsfFile* file, AsfSection* section, RmModel* model, const RmRecordFamily&) {
   RmLines* lines = RmModelGetOrCreateLines(model);
-  bool oldForm = model->DataVersion <= kRmOldChainEquationsVersion;
+  bool oldForm = model->DataVersion <= kLastOldFormVersion;
   RmChainEquations* equations = nullptr;
   RecordLine row;
   while (boRecordNextLine(file, section, &row)) {
@@ -75,3 +77,13 @@ void vRmChainEquationsRead(AsfFile* file, AsfSection* section, RmModel* model) {
     if (equations) vReadRow(&row, equations);
   }
 }
+
+}  // namespace
+
+const RmRecordFamily kRmChainEquationsFamily = {
+    .Keyword = "CHAINEQUATIONS",
+    .Letter = 'O',
+    .HasContent = boPresent,
+    .Write = vWrite,
+    .Read = vRead,
+};

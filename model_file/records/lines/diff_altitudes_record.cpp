@@ -1,11 +1,8 @@
-// DIFFALTITUDES: the difference tables of the vertical lines. Each line with
-// rows has a group ":DIFFALTITUDES id" and one row per range: from, to and
-// the difference. A file of the older form holds the rows of the model's one
-// line alone, without a group line.
+#include "model_file/records/lines/diff_altitudes_record.h"
+
 #include <cstring>
 
 #include "base/numbers.h"
-#include "model_file/records/lines/line_records.h"
 #include "model_file/records/frame/record_line.h"
 #include "road_model/lines/diff_altitudes.h"
 #include "road_model/model/model.h"
@@ -15,6 +12,8 @@
 namespace {
 
 constexpr const char* kGroupKeyword = ":DIFFALTITUDES";
+// The last DATAVERSION of the older form.
+constexpr int kLastOldFormVersion = 2;
 
 const RmDiffAltitudes* LineRows(const RmLine* line) {
   const RmVerLine* verLine = RmLineGetVerLine(line);
@@ -47,7 +46,9 @@ void vReadRow(RecordLine* row, RmDiffAltitudes* table) {
 
 }  // namespace
 
-bool boRmDiffAltitudesPresent(const RmModel* model) {
+namespace {
+
+bool boPresent(const RmModel* model, const RmRecordFamily&) {
   const RmLines* lines = RmModelGetLines(model);
   for (RmLine* line = RmLinesGetFirst(lines); line; line = RmLinesGetNext(lines, line)) {
     if (LineRows(line)) return true;
@@ -55,7 +56,8 @@ bool boRmDiffAltitudesPresent(const RmModel* model) {
   return false;
 }
 
-void vRmDiffAltitudesWrite(AsfFile* file, AsfSection* section, const RmModel* model) {
+void vWrite(AsfFile* file, AsfSection* section, const RmModel* model,
+            const RmRecordFamily&) {
   const RmLines* lines = RmModelGetLines(model);
   for (RmLine* line = RmLinesGetFirst(lines); line; line = RmLinesGetNext(lines, line)) {
     const RmDiffAltitudes* table = LineRows(line);
@@ -69,9 +71,9 @@ void vRmDiffAltitudesWrite(AsfFile* file, AsfSection* section, const RmModel* mo
   }
 }
 
-void vRmDiffAltitudesRead(AsfFile* file, AsfSection* section, RmModel* model) {
+void vRead(AsfFile* file, AsfSection* section, RmModel* model, const RmRecordFamily&) {
   RmLines* lines = RmModelGetOrCreateLines(model);
-  bool oldForm = model->DataVersion <= kRmOldLinesVersion;
+  bool oldForm = model->DataVersion <= kLastOldFormVersion;
   RmDiffAltitudes* table = nullptr;
   bool oldTableMade = false;
   RecordLine row;
@@ -93,3 +95,13 @@ void vRmDiffAltitudesRead(AsfFile* file, AsfSection* section, RmModel* model) {
     if (table) vReadRow(&row, table);
   }
 }
+
+}  // namespace
+
+const RmRecordFamily kRmDiffAltitudesFamily = {
+    .Keyword = "DIFFALTITUDES",
+    .Letter = 'O',
+    .HasContent = boPresent,
+    .Write = vWrite,
+    .Read = vRead,
+};

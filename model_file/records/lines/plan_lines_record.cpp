@@ -1,6 +1,5 @@
-// The line section with the empty name: one ":L" record per plan line, with
-// the start chainage in the field CHAIN, the line's text fields behind it,
-// and the text of each element as its `elmdata`.
+#include "model_file/records/lines/plan_lines_record.h"
+
 #include <cmath>
 #include <cstdio>
 #include <cstring>
@@ -8,7 +7,6 @@
 #include "base/numbers.h"
 #include "model_file/container/asf_file.h"
 #include "model_file/container/asf_objects.h"
-#include "model_file/records/lines/line_records.h"
 #include "road_model/lines/line_fields.h"
 #include "road_model/model/model.h"
 #include "road_model/model/model_lines.h"
@@ -16,6 +14,8 @@
 namespace {
 
 constexpr const char* kChainField = "CHAIN";
+// The last DATAVERSION of the older form.
+constexpr int kLastOldFormVersion = 2;
 // A start chainage this close to 0 is written as an empty field.
 constexpr double kZeroChain = 0.0001;
 // The centre line of a file of the older form.
@@ -102,7 +102,7 @@ void vRmLinesWriteRecords(AsfFile* file, AsfSection* section, const RmLines* lin
 
 void vRmLinesReadRecords(AsfFile* file, AsfSection* section, RmLines* lines, int dataVersion) {
   if (!lines) return;
-  bool oldForm = dataVersion <= kRmOldLinesVersion;
+  bool oldForm = dataVersion <= kLastOldFormVersion;
   vTakeFieldNames(file, section, lines);
   vAsfElmReadCallbackSet(file, vReadElementText);
   long id = 0;
@@ -120,17 +120,21 @@ void vRmLinesReadRecords(AsfFile* file, AsfSection* section, RmLines* lines, int
   vAsfElmReadCallbackSet(file, nullptr);
 }
 
-bool boRmPlanLinesPresent(const RmModel* model) { return RmModelGetLines(model) != nullptr; }
+namespace {
 
-void vRmPlanLinesPrepare(AsfFile* file, AsfSection* section, const RmModel* model) {
+bool boPresent(const RmModel* model, const RmRecordFamily&) { return RmModelGetLines(model) != nullptr; }
+
+void vPrepare(AsfFile* file, AsfSection* section, const RmModel* model,
+              const RmRecordFamily&) {
   vRmLinesSetFieldNames(file, section, RmModelGetLines(model));
 }
 
-void vRmPlanLinesWrite(AsfFile* file, AsfSection* section, const RmModel* model) {
+void vWrite(AsfFile* file, AsfSection* section, const RmModel* model,
+            const RmRecordFamily&) {
   vRmLinesWriteRecords(file, section, RmModelGetLines(model));
 }
 
-void vRmPlanLinesRead(AsfFile* file, AsfSection* section, RmModel* model) {
+void vRead(AsfFile* file, AsfSection* section, RmModel* model, const RmRecordFamily&) {
   RmLines* lines = RmModelGetLines(model);
   if (lines) {
     vRmLinesClear(lines);
@@ -139,3 +143,14 @@ void vRmPlanLinesRead(AsfFile* file, AsfSection* section, RmModel* model) {
   }
   vRmLinesReadRecords(file, section, lines, model->DataVersion);
 }
+
+}  // namespace
+
+const RmRecordFamily kRmPlanLinesFamily = {
+    .Keyword = "",
+    .Letter = 'L',
+    .HasContent = boPresent,
+    .Prepare = vPrepare,
+    .Write = vWrite,
+    .Read = vRead,
+};

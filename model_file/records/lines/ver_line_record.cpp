@@ -1,12 +1,8 @@
-// VERLINE: the vertical lines of the plan lines. Each line with a vertical
-// line has a group ":VERLINE id" with one row per intersection point:
-// chainage, height and radius, "P" and the length for a parabola, and "LS"
-// for a point with that flag. A file of the older form holds the rows of the
-// centre line alone, without a group line.
+#include "model_file/records/lines/ver_line_record.h"
+
 #include <cstring>
 
 #include "base/numbers.h"
-#include "model_file/records/lines/line_records.h"
 #include "model_file/records/frame/record_line.h"
 #include "road_model/lines/line_fields.h"
 #include "road_model/lines/vertical_curves.h"
@@ -17,6 +13,8 @@
 namespace {
 
 constexpr const char* kGroupKeyword = ":VERLINE";
+// The last DATAVERSION of the older form.
+constexpr int kLastOldFormVersion = 2;
 constexpr const char* kParabolaWord = "P";
 constexpr const char* kFlagWord = "LS";
 // The line of the older form, named when it has to be added.
@@ -102,7 +100,7 @@ void vRmVerLinesWriteRecords(AsfFile* file, AsfSection* section, const RmLines* 
 
 void vRmVerLinesReadRecords(AsfFile* file, AsfSection* section, RmLines* lines, int dataVersion) {
   if (!lines) return;
-  bool oldForm = dataVersion <= kRmOldLinesVersion;
+  bool oldForm = dataVersion <= kLastOldFormVersion;
   RmVerLine* verLine = nullptr;
   bool oldLineMade = false;
   RecordLine row;
@@ -125,14 +123,27 @@ void vRmVerLinesReadRecords(AsfFile* file, AsfSection* section, RmLines* lines, 
   vFinish(&verLine);
 }
 
-bool boRmVerLinesPresent(const RmModel* model) {
+namespace {
+
+bool boPresent(const RmModel* model, const RmRecordFamily&) {
   return boRmLinesHaveVerLines(RmModelGetLines(model));
 }
 
-void vRmVerLinesWrite(AsfFile* file, AsfSection* section, const RmModel* model) {
+void vWrite(AsfFile* file, AsfSection* section, const RmModel* model,
+            const RmRecordFamily&) {
   vRmVerLinesWriteRecords(file, section, RmModelGetLines(model));
 }
 
-void vRmVerLinesRead(AsfFile* file, AsfSection* section, RmModel* model) {
+void vRead(AsfFile* file, AsfSection* section, RmModel* model, const RmRecordFamily&) {
   vRmVerLinesReadRecords(file, section, RmModelGetOrCreateLines(model), model->DataVersion);
 }
+
+}  // namespace
+
+const RmRecordFamily kRmVerLinesFamily = {
+    .Keyword = "VERLINE",
+    .Letter = 'O',
+    .HasContent = boPresent,
+    .Write = vWrite,
+    .Read = vRead,
+};

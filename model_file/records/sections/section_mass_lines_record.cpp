@@ -1,6 +1,5 @@
-// CSECTSMASSESLINES and LSECTSMASSESLINES: the outlines of the masses of a
-// section set, one ":L" record per outline, found again by the fields
-// CHAIN, MASSID and EXACTLINE.
+#include "model_file/records/sections/section_mass_lines_record.h"
+
 #include <cmath>
 #include <cstdio>
 #include <cstring>
@@ -8,7 +7,6 @@
 #include "base/numbers.h"
 #include "model_file/container/asf_file.h"
 #include "model_file/container/asf_objects.h"
-#include "model_file/records/sections/section_records.h"
 #include "road_model/model/model.h"
 #include "road_model/model/model_parts.h"
 #include "road_model/sections/section_masses.h"
@@ -76,9 +74,7 @@ OutlineKey KeyOfRecord(AsfFile* file, AsfSection* section) {
   return key;
 }
 
-}  // namespace
-
-bool boRmSectionSetHasMassLines(const RmSectionSet* set) {
+bool boHasMassLines(const RmSectionSet* set) {
   for (const RmSection* section = RmSectionsGetFirst(set); section; section = section->Next) {
     for (const RmMass* mass = RmSectionMassesGetFirst(section); mass; mass = mass->Next) {
       if (mass->ExactLine || mass->ApproxLine) return true;
@@ -87,13 +83,13 @@ bool boRmSectionSetHasMassLines(const RmSectionSet* set) {
   return false;
 }
 
-void vRmMassLinesSetFieldNames(AsfFile* file, AsfSection* section) {
+void vSetFieldNames(AsfFile* file, AsfSection* section) {
   vAsfFieldNameSet(file, section, kChainIndex, kChainField);
   vAsfFieldNameSet(file, section, kMassIdIndex, kMassIdField);
   vAsfFieldNameSet(file, section, kExactLineIndex, kExactLineField);
 }
 
-void vRmMassLinesWriteRecords(AsfFile* file, AsfSection* section, const RmSectionSet* set) {
+void vWriteRecords(AsfFile* file, AsfSection* section, const RmSectionSet* set) {
   OutlineFields fields{};
   for (const RmSection* walk = RmSectionsGetFirst(set); walk; walk = walk->Next) {
     std::snprintf(fields.Chain, sizeof fields.Chain, "%.4lf", walk->Chain);
@@ -111,7 +107,7 @@ void vRmMassLinesWriteRecords(AsfFile* file, AsfSection* section, const RmSectio
   }
 }
 
-void vRmMassLinesReadRecords(AsfFile* file, AsfSection* section, RmSectionSet* set) {
+void vReadRecords(AsfFile* file, AsfSection* section, RmSectionSet* set) {
   if (!set) return;
   RmSection* lastFound = RmSectionsGetFirst(set);
   long id = 0;
@@ -134,36 +130,47 @@ void vRmMassLinesReadRecords(AsfFile* file, AsfSection* section, RmSectionSet* s
   }
 }
 
-// ---- The families ----
-
-bool boRmCrossMassLinesPresent(const RmModel* model) {
-  return boRmSectionSetHasMassLines(RmModelGetCrossSections(model));
+RmSectionSet* SetOf(const RmModel* model, const RmRecordFamily& family) {
+  return family.SectionSet == kRmLongSections ? RmModelGetLongSections(model)
+                                              : RmModelGetCrossSections(model);
 }
 
-void vRmCrossMassLinesPrepare(AsfFile* file, AsfSection* section, const RmModel*) {
-  vRmMassLinesSetFieldNames(file, section);
+bool boPresent(const RmModel* model, const RmRecordFamily& family) {
+  return boHasMassLines(SetOf(model, family));
 }
 
-void vRmCrossMassLinesWrite(AsfFile* file, AsfSection* section, const RmModel* model) {
-  vRmMassLinesWriteRecords(file, section, RmModelGetCrossSections(model));
+void vPrepare(AsfFile* file, AsfSection* section, const RmModel*, const RmRecordFamily&) {
+  vSetFieldNames(file, section);
 }
 
-void vRmCrossMassLinesRead(AsfFile* file, AsfSection* section, RmModel* model) {
-  vRmMassLinesReadRecords(file, section, RmModelGetCrossSections(model));
+void vWrite(AsfFile* file, AsfSection* section, const RmModel* model,
+            const RmRecordFamily& family) {
+  vWriteRecords(file, section, SetOf(model, family));
 }
 
-bool boRmLongMassLinesPresent(const RmModel* model) {
-  return boRmSectionSetHasMassLines(RmModelGetLongSections(model));
+// The outlines hang on the masses of the set read before.
+void vRead(AsfFile* file, AsfSection* section, RmModel* model, const RmRecordFamily& family) {
+  vReadRecords(file, section, SetOf(model, family));
 }
 
-void vRmLongMassLinesPrepare(AsfFile* file, AsfSection* section, const RmModel*) {
-  vRmMassLinesSetFieldNames(file, section);
-}
+}  // namespace
 
-void vRmLongMassLinesWrite(AsfFile* file, AsfSection* section, const RmModel* model) {
-  vRmMassLinesWriteRecords(file, section, RmModelGetLongSections(model));
-}
+const RmRecordFamily kRmCrossMassLinesFamily = {
+    .Keyword = "CSECTSMASSESLINES",
+    .Letter = 'L',
+    .SectionSet = kRmCrossSections,
+    .HasContent = boPresent,
+    .Prepare = vPrepare,
+    .Write = vWrite,
+    .Read = vRead,
+};
 
-void vRmLongMassLinesRead(AsfFile* file, AsfSection* section, RmModel* model) {
-  vRmMassLinesReadRecords(file, section, RmModelGetLongSections(model));
-}
+const RmRecordFamily kRmLongMassLinesFamily = {
+    .Keyword = "LSECTSMASSESLINES",
+    .Letter = 'L',
+    .SectionSet = kRmLongSections,
+    .HasContent = boPresent,
+    .Prepare = vPrepare,
+    .Write = vWrite,
+    .Read = vRead,
+};

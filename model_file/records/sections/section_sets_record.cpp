@@ -1,10 +1,5 @@
-// CROSSECTIONS and LONGSECTIONS: one group per section, from ":CHAIN" to the
-// next, with the section's plan position, clipping and tilt (cross sections
-// only), its masses and its layers with their points.
-//
-// This is the bulk of a model file: a large road has hundreds of thousands
-// of point lines. They are assembled and taken apart in place, without an
-// allocation per line; the points come from the set's pool.
+#include "model_file/records/sections/section_sets_record.h"
+
 #include <cmath>
 #include <cstdint>
 #include <cstdio>
@@ -15,7 +10,6 @@
 #include "model_file/container/asf_file.h"
 #include "model_file/records/frame/record_line.h"
 #include "model_file/records/sections/section_point_line.h"
-#include "model_file/records/sections/section_records.h"
 #include "road_model/model/model.h"
 #include "road_model/model/model_parts.h"
 #include "road_model/sections/section_masses.h"
@@ -26,6 +20,25 @@ namespace {
 
 // A tunnel rotation this close to 0 is none.
 constexpr double kNoRotation = 0.00001;
+
+// The keywords of a section group.
+constexpr char kChain[] = ":CHAIN";
+constexpr char kGroupEnd[] = ":GROUPEND";
+constexpr char kLeftClip[] = "LCLIPDIST";
+constexpr char kRightClip[] = "RCLIPDIST";
+constexpr char kFlags[] = "FLAGS";
+constexpr char kClipInCorner[] = "CLIPINCORNER";
+constexpr char kAngles[] = "CLRANG";
+constexpr char kPlanPoints[] = "CLRPOINTS";
+constexpr char kTilt[] = "CLTILT";
+constexpr char kTunnelRotation[] = "TUNNELROTATION";
+constexpr char kLocked[] = "LOCKED";
+constexpr char kMass[] = "MASS";
+constexpr char kLayer[] = "LAYER";
+constexpr char kBuildMethod[] = "BUILDMETHOD";
+constexpr char kInterMethod[] = "INTERMETHOD";
+constexpr char kBlockName[] = "BLOCKNAME";
+constexpr char kOppositeDiagonal[] = "OPPOSITEDIAGONAL";
 
 // ---- Writing ----
 
@@ -38,32 +51,32 @@ const char* sTrimmed(char* buffer, size_t size, const char* format, double value
 
 void vWritePlacement(AsfFile* file, AsfSection* out, const RmSection* section) {
   if (boRmSectionGetFlag(section, kRmSectionLeftClip)) {
-    boRecordWrite(file, out, "LCLIPDIST %.3f", double(section->LClipDist));
+    boRecordWrite(file, out, "%s %.3f", kLeftClip, double(section->LClipDist));
   }
   if (boRmSectionGetFlag(section, kRmSectionRightClip)) {
-    boRecordWrite(file, out, "RCLIPDIST %.3f", double(section->RClipDist));
+    boRecordWrite(file, out, "%s %.3f", kRightClip, double(section->RClipDist));
   }
-  if (section->Flags != 0) boRecordWrite(file, out, "FLAGS %u", section->Flags);
+  if (section->Flags != 0) boRecordWrite(file, out, "%s %u", kFlags, section->Flags);
   if (section->ClipInCorner != 0) {
-    boRecordWrite(file, out, "CLIPINCORNER %d", section->ClipInCorner);
+    boRecordWrite(file, out, "%s %d", kClipInCorner, section->ClipInCorner);
   }
   char skew[20];
-  boRecordWrite(file, out, "CLRANG %.5f %.5f %.3f %.3f %.6lf %s", section->ClX, section->ClY,
+  boRecordWrite(file, out, "%s %.5f %.5f %.3f %.3f %.6lf %s", kAngles, section->ClX, section->ClY,
                 double(section->LeftDist), double(section->RightDist), section->Direction,
                 sTrimmed(skew, sizeof skew, "%.6lf", section->Skew));
   if (boRmSectionGetFlag(section, kRmSectionTilted)) {
-    boRecordWrite(file, out, "CLTILT %.8f %.5f", section->TiltSlope, section->TiltHeight);
+    boRecordWrite(file, out, "%s %.8f %.5f", kTilt, section->TiltSlope, section->TiltHeight);
   }
   double rotation = section->TunnelRotation;
   if (!(std::fabs(rotation) < kNoRotation) && boIsPresent(rotation)) {
-    boRecordWrite(file, out, "TUNNELROTATION %.3f", rotation);
+    boRecordWrite(file, out, "%s %.3f", kTunnelRotation, rotation);
   }
 }
 
 void vWriteMasses(AsfFile* file, AsfSection* out, const RmSection* section) {
   const RmMass* mass = RmSectionMassesGetFirst(section);
   if (!mass) return;
-  boRecordWrite(file, out, "MASS");
+  boRecordWrite(file, out, "%s", kMass);
   for (; mass; mass = mass->Next) {
     char area[64];
     char offset[64];
@@ -76,16 +89,20 @@ void vWriteMasses(AsfFile* file, AsfSection* out, const RmSection* section) {
 void vWriteBuildInfo(AsfFile* file, AsfSection* out, const RmLayer* layer) {
   const RmLayerBuildInfo* info = layer->BuildInfo;
   if (!info) return;
-  if (info->BuildMethod >= 1) boRecordWrite(file, out, "BUILDMETHOD %d", info->BuildMethod);
-  if (info->InterMethod >= 1) boRecordWrite(file, out, "INTERMETHOD %d", info->InterMethod);
-  if (info->BuildMethod == 1 && info->BlockName && info->BlockName[0]) {
-    boRecordWrite(file, out, "BLOCKNAME %s", info->BlockName);
+  if (info->BuildMethod >= 1) {
+    boRecordWrite(file, out, "%s %d", kBuildMethod, info->BuildMethod);
   }
-  if (info->OppositeDiagonal == 1) boRecordWrite(file, out, "OPPOSITEDIAGONAL %d", 1);
+  if (info->InterMethod >= 1) {
+    boRecordWrite(file, out, "%s %d", kInterMethod, info->InterMethod);
+  }
+  if (info->BuildMethod == 1 && info->BlockName && info->BlockName[0]) {
+    boRecordWrite(file, out, "%s %s", kBlockName, info->BlockName);
+  }
+  if (info->OppositeDiagonal == 1) boRecordWrite(file, out, "%s %d", kOppositeDiagonal, 1);
 }
 
 void vWriteLayer(AsfFile* file, AsfSection* out, const RmLayer* layer) {
-  boRecordWrite(file, out, "LAYER %u", static_cast<unsigned>(iRmLayerIdToFile(layer->Id)));
+  boRecordWrite(file, out, "%s %u", kLayer, static_cast<unsigned>(iRmLayerIdToFile(layer->Id)));
   vWriteBuildInfo(file, out, layer);
   char line[kRmPointLineSize];
   for (const RmPoint* point = RmPointsGetFirst(layer); point; point = point->Next) {
@@ -95,7 +112,7 @@ void vWriteLayer(AsfFile* file, AsfSection* out, const RmLayer* layer) {
 }
 
 void vWriteSection(AsfFile* file, AsfSection* out, const RmSection* section, bool crossSection) {
-  boRecordWrite(file, out, ":CHAIN %.4lf", section->Chain);
+  boRecordWrite(file, out, "%s %.4lf", kChain, section->Chain);
   if (crossSection) vWritePlacement(file, out, section);
   vWriteMasses(file, out, section);
   for (const RmLayer* layer = RmSectionLayersGetFirst(section); layer; layer = layer->Next) {
@@ -158,13 +175,13 @@ void vStartLayer(SetReader* reader, RecordLine* line) {
 
 // A keyword of the layer's build info; false for any other keyword.
 bool boReadBuildInfo(RmLayer* layer, const char* keyword, RecordLine* line) {
-  if (boIs(keyword, "BUILDMETHOD")) {
+  if (boIs(keyword, kBuildMethod)) {
     vRmLayerSetBuildMethod(layer, iRecordInteger(line, 1));
-  } else if (boIs(keyword, "INTERMETHOD")) {
+  } else if (boIs(keyword, kInterMethod)) {
     vRmLayerSetInterMethod(layer, iRecordInteger(line, 1));
-  } else if (boIs(keyword, "BLOCKNAME")) {
+  } else if (boIs(keyword, kBlockName)) {
     vRmLayerSetBlockName(layer, sRecordToken(line));
-  } else if (boIs(keyword, "OPPOSITEDIAGONAL")) {
+  } else if (boIs(keyword, kOppositeDiagonal)) {
     vRmLayerSetOppositeDiagonal(layer, iRecordInteger(line, 0) != 0);
   } else {
     return false;
@@ -174,30 +191,30 @@ bool boReadBuildInfo(RmLayer* layer, const char* keyword, RecordLine* line) {
 
 void vReadSectionKeyword(SetReader* reader, const char* keyword, RecordLine* line) {
   RmSection* section = reader->Section;
-  if (boIs(keyword, "LAYER")) {
+  if (boIs(keyword, kLayer)) {
     vStartLayer(reader, line);
-  } else if (boIs(keyword, "MASS")) {
+  } else if (boIs(keyword, kMass)) {
     reader->State = Reading::kMass;
-  } else if (boIs(keyword, "CLRANG")) {
+  } else if (boIs(keyword, kAngles)) {
     vReadAngles(line, section);
-  } else if (boIs(keyword, "FLAGS")) {
+  } else if (boIs(keyword, kFlags)) {
     section->Flags = static_cast<uint32_t>(iRecordInteger(line));
-  } else if (boIs(keyword, "LCLIPDIST")) {
+  } else if (boIs(keyword, kLeftClip)) {
     section->LClipDist = static_cast<float>(dRecordNumber(line));
     vRmSectionSetFlag(section, kRmSectionLeftClip, true);
-  } else if (boIs(keyword, "RCLIPDIST")) {
+  } else if (boIs(keyword, kRightClip)) {
     section->RClipDist = static_cast<float>(dRecordNumber(line));
     vRmSectionSetFlag(section, kRmSectionRightClip, true);
-  } else if (boIs(keyword, "CLIPINCORNER")) {
+  } else if (boIs(keyword, kClipInCorner)) {
     section->ClipInCorner = iRecordInteger(line);
-  } else if (boIs(keyword, "CLTILT")) {
+  } else if (boIs(keyword, kTilt)) {
     section->TiltSlope = dRecordNumber(line);
     section->TiltHeight = dRecordNumber(line);
-  } else if (boIs(keyword, "TUNNELROTATION")) {
+  } else if (boIs(keyword, kTunnelRotation)) {
     section->TunnelRotation = dRecordNumber(line);
-  } else if (boIs(keyword, "LOCKED")) {
+  } else if (boIs(keyword, kLocked)) {
     vRmSectionSetFlag(section, kRmSectionLocked, iRecordInteger(line) != 0);
-  } else if (boIs(keyword, "CLRPOINTS")) {
+  } else if (boIs(keyword, kPlanPoints)) {
     vReadPlanPoints(line, section);
   }
 }
@@ -248,8 +265,8 @@ bool boRmSectionSetReadRecords(AsfFile* file, AsfSection* section, RmSectionSet*
     }
     reader.State = Reading::kSection;
     if (!keyword[0]) continue;
-    if (boIs(keyword, ":GROUPEND")) break;
-    if (boIs(keyword, ":CHAIN")) {
+    if (boIs(keyword, kGroupEnd)) break;
+    if (boIs(keyword, kChain)) {
       // A section that cannot be made takes the lines up to the next ":CHAIN".
       reader.Section = RmSectionAdd(set, nullptr, dRecordNumber(&line));
       reader.Layer = nullptr;
@@ -262,41 +279,50 @@ bool boRmSectionSetReadRecords(AsfFile* file, AsfSection* section, RmSectionSet*
 
 // ---- The families ----
 
-bool boRmCrossSectionsPresent(const RmModel* model) {
-  return RmSectionsGetFirst(RmModelGetCrossSections(model)) != nullptr;
+namespace {
+
+RmSectionSet* SetOf(const RmModel* model, const RmRecordFamily& family) {
+  return family.SectionSet == kRmLongSections ? RmModelGetLongSections(model)
+                                              : RmModelGetCrossSections(model);
 }
 
-void vRmCrossSectionsWrite(AsfFile* file, AsfSection* section, const RmModel* model) {
-  vRmSectionSetWriteRecords(file, section, RmModelGetCrossSections(model));
+bool boPresent(const RmModel* model, const RmRecordFamily& family) {
+  return RmSectionsGetFirst(SetOf(model, family)) != nullptr;
 }
 
-bool boRmLongSectionsPresent(const RmModel* model) {
-  return RmSectionsGetFirst(RmModelGetLongSections(model)) != nullptr;
+void vWrite(AsfFile* file, AsfSection* section, const RmModel* model,
+            const RmRecordFamily& family) {
+  vRmSectionSetWriteRecords(file, section, SetOf(model, family));
 }
 
-void vRmLongSectionsWrite(AsfFile* file, AsfSection* section, const RmModel* model) {
-  vRmSectionSetWriteRecords(file, section, RmModelGetLongSections(model));
-}
-
-void vRmCrossSectionsRead(AsfFile* file, AsfSection* section, RmModel* model) {
+// A set that cannot be read whole is dropped; the model keeps no set then.
+void vRead(AsfFile* file, AsfSection* section, RmModel* model, const RmRecordFamily& family) {
   RmSectionSet* set = RmSectionSetCreate();
+  if (set) set->Kind = family.SectionSet;
   if (set && !boRmSectionSetReadRecords(file, section, set)) vRmSectionSetDelete(&set);
-  vRmModelSetCrossSections(model, set);
-  if (!set) return;
-  if (model->DataVersion == kRmOldCodesVersion) vRmSectionSetConvertOldCodes(set);
-  // Locked sections of such files are to be rebuilt before they are locked
-  // again; the rebuilding is the section builder's, and the model is marked
-  // so that the next save writes them in the current form.
-  if (model->DataVersion <= kRmRelockVersion && boRmSectionSetHasLocked(set)) {
-    vRmModelSetDirty(model, true);
+  if (family.SectionSet == kRmLongSections) {
+    vRmModelSetLongSections(model, set);
+  } else {
+    vRmModelSetCrossSections(model, set);
   }
-  if (model->DataVersion <= kRmUnplacedSectionsVersion) vRmSectionSetPlaceUnplaced(set, model);
 }
 
-void vRmLongSectionsRead(AsfFile* file, AsfSection* section, RmModel* model) {
-  RmSectionSet* set = RmSectionSetCreate();
-  if (set) set->Kind = kRmLongSections;
-  if (set && !boRmSectionSetReadRecords(file, section, set)) vRmSectionSetDelete(&set);
-  vRmModelSetLongSections(model, set);
-  if (set && model->DataVersion == kRmOldCodesVersion) vRmSectionSetConvertOldCodes(set);
-}
+}  // namespace
+
+const RmRecordFamily kRmCrossSectionsFamily = {
+    .Keyword = "CROSSECTIONS",
+    .Letter = 'O',
+    .SectionSet = kRmCrossSections,
+    .HasContent = boPresent,
+    .Write = vWrite,
+    .Read = vRead,
+};
+
+const RmRecordFamily kRmLongSectionsFamily = {
+    .Keyword = "LONGSECTIONS",
+    .Letter = 'O',
+    .SectionSet = kRmLongSections,
+    .HasContent = boPresent,
+    .Write = vWrite,
+    .Read = vRead,
+};

@@ -9,6 +9,9 @@
 
 #include "base/file_times.h"
 #include "base/paths.h"
+#include "model_file/records/frame/model_load.h"
+#include "model_file/records/frame/model_save.h"
+#include "model_file/records/frame/model_write.h"
 #include "road_model/model/model_scalars.h"
 #include "road_model/params/road_dim_params.h"
 #include "road_model/params/sect_params.h"
@@ -128,17 +131,6 @@ TEST(ModelLoad, ReadsTheFileAndRecordsWhereItCameFrom) {
   EXPECT_EQ(loaded->DataVersion, 5);
   EXPECT_EQ(loaded->CalcMode, 0);
   EXPECT_EQ(loaded->RoadType, 4);
-}
-
-TEST(ModelLoad, AFileOfThisProgramReadsAndWritesBackByteForByte) {
-  std::string fixture = std::string(KVRVIPS_TEST_DATA_DIR) + "/records/head_sections.sfi";
-  ModelPtr model = NewModel();
-  ASSERT_TRUE(boRmModelLoad(model.get(), fixture.c_str()));
-  EXPECT_STREQ(sRmModelGetMarket(model.get()), "Nor");
-  ASSERT_NE(model->RoadDimParams, nullptr);
-  EXPECT_EQ(model->RoadDimParams->Ydt, 4500);
-  EXPECT_EQ(model->SectTriangulationParams->MinPointDist, 0.0025);
-  EXPECT_EQ(sWrittenModel(model.get()), sReadWholeFile(fixture));
 }
 
 TEST(ModelLoad, FilesThatCannotBeReadLeaveTheModelAsItWas) {

@@ -12,7 +12,6 @@
 
 #include "geometry/line.h"
 #include "model_file/records/sections/section_point_line.h"
-#include "model_file/records/sections/section_records.h"
 #include "road_model/model/model_parts.h"
 #include "road_model/sections/layer_lookup.h"
 #include "road_model/model/model_lines.h"

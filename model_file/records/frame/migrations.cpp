@@ -1,0 +1,81 @@
+#include "model_file/records/frame/migrations.h"
+
+#include <climits>
+
+#include "road_model/codes/pcode.h"
+#include "road_model/model/model.h"
+#include "road_model/model/model_lines.h"
+#include "road_model/model/model_parts.h"
+#include "road_model/sections/section_placing.h"
+#include "road_model/sections/section_set.h"
+
+namespace {
+
+struct Migration {
+  int FirstVersion;  // the DATAVERSIONs that the step runs for, both included
+  int LastVersion;
+  void (*Run)(RmModel* model);
+};
+
+void vRewriteOldCodes(RmSectionSet* set) {
+  for (RmSection* section = RmSectionsGetFirst(set); section; section = section->Next) {
+    for (RmLayer* layer = RmSectionLayersGetFirst(section); layer; layer = layer->Next) {
+      for (RmPoint* point = RmPointsGetFirst(layer); point; point = point->Next) {
+        vRmPointSetPcode(point, iRmPcodeFromOldForm(iRmPointGetPcode(point)));
+      }
+    }
+  }
+}
+
+// Every PCODE that the model holds, from the older decimal form.
+void vRewriteAllOldCodes(RmModel* model) {
+  vRewriteOldCodes(RmModelGetCrossSections(model));
+  vRewriteOldCodes(RmModelGetLongSections(model));
+}
+
+// Locked sections of such files are to be rebuilt before they are locked
+// again. The rebuilding is the section builder's, which this library does
+// not carry; the model is marked dirty so that the next save writes the
+// sections in the current form.
+void vMarkLockedForRebuild(RmModel* model) {
+  if (boRmSectionSetHasLocked(RmModelGetCrossSections(model))) vRmModelSetDirty(model, true);
+}
+
+bool boUnplaced(const RmSection* section) {
+  return section->ClX == 0.0 && section->ClY == 0.0 && section->LeftDist == 0.0f &&
+         section->RightDist == 0.0f && section->Direction == 0.0 && section->Skew == 0.0;
+}
+
+// A cross section of such a file could come without its plan position: one
+// whose CLRANG values are all 0 is placed on the centre line.
+void vPlaceUnplacedSections(RmModel* model) {
+  const RmLine* centerLine = RmModelGetCenterLine(model);
+  if (!centerLine) return;
+  const RmSectParams* params = RmModelGetSectParams(model);
+  RmSectionSet* set = RmModelGetCrossSections(model);
+  for (RmSection* section = RmSectionsGetFirst(set); section; section = section->Next) {
+    if (boUnplaced(section)) boRmSectionPlaceOnLine(section, centerLine, params);
+  }
+}
+
+constexpr Migration kMigrations[] = {
+    // Version 0 alone (a file without the key): a negative version is no
+    // version 0. Needs every table that holds PCODEs: the section sets.
+    {0, 0, vRewriteAllOldCodes},
+    // Needs the cross sections.
+    {INT_MIN, 2, vMarkLockedForRebuild},
+    // Needs the plan lines (the centre line), SECTPARAMS and the cross
+    // sections.
+    {INT_MIN, 3, vPlaceUnplacedSections},
+};
+
+}  // namespace
+
+void vRmModelMigrate(RmModel* model) {
+  if (!model) return;
+  for (const Migration& step : kMigrations) {
+    if (model->DataVersion >= step.FirstVersion && model->DataVersion <= step.LastVersion) {
+      step.Run(model);
+    }
+  }
+}

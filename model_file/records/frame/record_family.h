@@ -1,0 +1,39 @@
+// A record family: one section of the model file and what the model keeps of
+// it. Each family's unit exports one descriptor that says everything the
+// frame needs to know: the section's keyword and container letter, whether
+// the model has anything for it, and how it is prepared, written and read.
+// The frame lists the descriptors in the order of the file
+// (record_families.cpp); nothing else names a section of the file.
+//
+// A family that holds one of the two section sets names it, so that one
+// writer and one reader serve cross and long sections alike.
+#pragma once
+
+struct AsfFile;
+struct AsfSection;
+struct RmModel;
+
+// The section set of a family that holds one; kRmNoSectionSet otherwise.
+inline constexpr int kRmNoSectionSet = -1;
+
+struct RmRecordFamily {
+  // The section's name in the file ("" for the plan lines, "[L_]").
+  const char* Keyword;
+  // The container letter of the section: 'O' for text lines, 'L' for lines.
+  char Letter;
+  // kRmCrossSections or kRmLongSections for a family of a section set.
+  int SectionSet = kRmNoSectionSet;
+  // Whether the model has something for the section; null: always written.
+  bool (*HasContent)(const RmModel* model, const RmRecordFamily& family) = nullptr;
+  // Sets the section up before the head is written (the field names of a
+  // line section); null for none.
+  void (*Prepare)(AsfFile* file, AsfSection* section, const RmModel* model,
+                  const RmRecordFamily& family) = nullptr;
+  // Writes the section's records.
+  void (*Write)(AsfFile* file, AsfSection* section, const RmModel* model,
+                const RmRecordFamily& family) = nullptr;
+  // Reads the section into the model. Readers do not fail: what cannot be
+  // read is left out.
+  void (*Read)(AsfFile* file, AsfSection* section, RmModel* model,
+               const RmRecordFamily& family) = nullptr;
+};

@@ -1,0 +1,9 @@
+// ROADDIMPARAMS. A model of the Norwegian market with CLASSVERSION 0 is
+// written in the old form (speed, traffic, basic road, road and vehicle
+// class); every other model writes the road class and its version. The
+// reader takes all six keywords wherever they stand.
+#pragma once
+
+#include "model_file/records/frame/record_family.h"
+
+extern const RmRecordFamily kRmRoadDimParamsFamily;
