@@ -1,9 +1,10 @@
 // Line and polygon records: ":L" and ":Y" with their extent, field values,
 // GUID, the polygon mark of lines and the element block.
+#include "model_file/container/asf_line_record.h"
+
 #include "geometry/line_measure.h"
 #include "model_file/container/asf_element_block.h"
 #include "model_file/container/asf_field_values.h"
-#include "model_file/container/asf_objects.h"
 #include "model_file/container/asf_record_input.h"
 #include "model_file/container/asf_record_output.h"
 

@@ -3,11 +3,12 @@
 // north less the offsets), the triangles of a net in "/TRIANGLES2" and a
 // "/PATTRIBS" block for each point attribute in use. The older forms
 // "/POINTS" and "/TRIANGLES" are read too.
+#include "model_file/container/asf_net_record.h"
+
 #include <cmath>
 #include <cstring>
 
 #include "model_file/container/asf_field_values.h"
-#include "model_file/container/asf_objects.h"
 #include "model_file/container/asf_record_input.h"
 #include "model_file/container/asf_record_numbers.h"
 #include "model_file/container/asf_record_output.h"

@@ -2,11 +2,12 @@
 // ":X id", then by kind the extent, field values, GUID and settings up to the
 // body. Records of the older format have heads of their own
 // (asf_old_records.h).
+#include "model_file/container/asf_object_reader.h"
+
 #include <cstring>
 
 #include "model_file/container/asf_head_reader.h"
 #include "model_file/container/asf_keys_fields.h"
-#include "model_file/container/asf_objects.h"
 #include "model_file/container/asf_old_records.h"
 #include "model_file/container/asf_record_input.h"
 #include "model_file/container/asf_record_numbers.h"

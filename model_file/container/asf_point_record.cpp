@@ -1,10 +1,11 @@
 // Point and text records: ":P" and ":T" with their field values, GUID,
 // rotation (in degrees in the file), the alignment and label of texts, and
 // the position in a "/XYZ" line.
+#include "model_file/container/asf_point_record.h"
+
 #include <cmath>
 
 #include "model_file/container/asf_field_values.h"
-#include "model_file/container/asf_objects.h"
 #include "model_file/container/asf_record_input.h"
 #include "model_file/container/asf_record_numbers.h"
 #include "model_file/container/asf_record_output.h"
