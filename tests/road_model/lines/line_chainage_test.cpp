@@ -94,43 +94,30 @@ double AngleDifference(double a, double b) { return std::remainder(a - b, 2.0 * 
 
 }  // namespace
 
-TEST(LineChainage, PointAtChainAndBackOnStraightsArcsAndClothoids) {
+TEST(LineChainage, PointsAtChainAndOffsetAndBackOnStraightsArcsAndClothoids) {
   Alignment alignment;
   double total = kStraight + kClothoidLength + kSweep * kRadius + kLastStraight;
   EXPECT_NEAR(dLiLineLength(alignment.line), total, 1e-9);
-  // Chainages on every piece, the arc's far side and the piece ends among them.
+  // Chainages on every piece, the arc's far side and the piece ends among
+  // them; offsets are square to the line and negative to the left.
   const double chains[] = {1000.0, 1050.0, 1100.0, 1110.0, 1125.0, 1140.0,
                            1160.0, 1200.0, 1240.0, 1300.0, 1370.0, 1385.0, 1000.0 + total};
   for (double chain : chains) {
     Expected expected = alignment.At(chain);
-    ViPoint2d point;
-    double tangent = 0.0;
-    ASSERT_TRUE(boRmLinePointAtChain(alignment.line, chain, &point, &tangent, 0.0)) << chain;
-    EXPECT_NEAR(point.x, expected.point.x, 1e-7) << chain;
-    EXPECT_NEAR(point.y, expected.point.y, 1e-7) << chain;
-    EXPECT_NEAR(AngleDifference(tangent, expected.direction), 0.0, 1e-7) << chain;
-
-    double back = 0.0, offset = 1.0;
-    ASSERT_TRUE(boRmLineChainAtPoint(alignment.line, point.x, point.y, 0.5, &back, &offset))
-        << chain;
-    EXPECT_NEAR(back, chain, 1e-6) << chain;
-    EXPECT_NEAR(offset, 0.0, 1e-6) << chain;
-  }
-}
-
-TEST(LineChainage, OffsetsAreSquareToTheLineAndNegativeToTheLeft) {
-  Alignment alignment;
-  for (double chain : {1050.0, 1200.0, 1300.0, 1385.0}) {
-    Expected expected = alignment.At(chain);
-    for (double offset : {-3.0, 2.5}) {
+    for (double offset : {0.0, -3.0, 2.5}) {
+      SCOPED_TRACE(testing::Message() << "chain " << chain << ", offset " << offset);
       ViPoint2d point;
-      ASSERT_TRUE(boRmLinePointAtChain(alignment.line, chain, &point, nullptr, offset));
+      double tangent = 0.0;
+      ASSERT_TRUE(boRmLinePointAtChain(alignment.line, chain, &point, &tangent, offset));
       EXPECT_NEAR(point.x, expected.point.x + offset * std::sin(expected.direction), 1e-7);
       EXPECT_NEAR(point.y, expected.point.y - offset * std::cos(expected.direction), 1e-7);
-      double back = 0.0, side = 0.0;
+      EXPECT_NEAR(AngleDifference(tangent, expected.direction), 0.0, 1e-7);
+
+      double back = 0.0, side = 1.0;
       ASSERT_TRUE(boRmLineChainAtPoint(alignment.line, point.x, point.y, -1.0, &back, &side));
       EXPECT_NEAR(back, chain, 1e-6);
       EXPECT_NEAR(side, offset, 1e-6);
+      if (offset == 0.0) continue;
       double distance = 0.0;
       EXPECT_EQ(iRmLineSideOf(alignment.line, point.x, point.y, -1.0, &distance),
                 offset < 0 ? -1 : 1);

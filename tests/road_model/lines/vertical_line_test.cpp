@@ -77,8 +77,8 @@ TEST(VerLineCompute, CrestAndSagCirclesFollowTheTouchingCircle) {
     EXPECT_NEAR(slope, circle.Slope(chain), 1e-9) << chain;
   }
   // On the straights the height is the grade line and the slope its grade.
-  for (auto [chain, height, grade] : {std::tuple{100.0, 102.0, 0.02},
-                                      {300.0, 102.5, -0.015}, {550.0, 102.5, 0.01}}) {
+  for (auto [chain, height, grade] :
+       {std::tuple{100.0, 102.0, 0.02}, {300.0, 102.5, -0.015}, {550.0, 102.5, 0.01}}) {
     double slope = 0.0;
     EXPECT_NEAR(line.Height(chain, &slope), height, 1e-12) << chain;
     EXPECT_DOUBLE_EQ(slope, grade) << chain;
@@ -130,8 +130,8 @@ TEST(VerLineCompute, OverlappingCurvesAreShortenedAndRefitted) {
   EXPECT_NEAR(first->CenterHeight, firstCenter, 1e-7);
   EXPECT_NEAR(first->Length, 2.0 * std::asin(100.0 / r) * r, 1e-7);
   for (double chain : {20.0, 100.0, 180.0}) {
-    EXPECT_NEAR(line.Height(chain), firstCenter + std::sqrt(r * r - (chain - 100.0) * (chain - 100.0)),
-                1e-9)
+    EXPECT_NEAR(line.Height(chain),
+                firstCenter + std::sqrt(r * r - (chain - 100.0) * (chain - 100.0)), 1e-9)
         << chain;
   }
   // Second: through (200, 0) and (300, 2), centre above (a sag).

@@ -37,13 +37,11 @@ TEST(PointCode, CodeAndMarkShareOneWordWithoutDisturbingEachOther) {
   EXPECT_EQ(point.Code >> 24, 0xFDu);
 
   // The ends of the 24-bit range, and the sentinel.
-  vRmPointSetPcode(&point, 8388607);
-  EXPECT_EQ(iRmPointGetPcode(&point), 8388607);
-  vRmPointSetPcode(&point, -8388608);
-  EXPECT_EQ(iRmPointGetPcode(&point), -8388608);
-  vRmPointSetPcode(&point, -99999);
-  EXPECT_EQ(iRmPointGetPcode(&point), -99999);
-  EXPECT_EQ(iRmPointGetMark(&point), 1);
+  for (int code : {8388607, -8388608, -99999}) {
+    vRmPointSetPcode(&point, code);
+    EXPECT_EQ(iRmPointGetPcode(&point), code);
+    EXPECT_EQ(iRmPointGetMark(&point), 1) << code;
+  }
 }
 
 TEST(SectionLayers, LayersTakeTheirSortedPlaceAndDuplicatesGoBehind) {
@@ -100,12 +98,9 @@ TEST(SectionLayers, CopyBetweenTheoreticalAndPhysicalKindsDropsTheCodes) {
 
 TEST(SectionLayers, BuildInfoIsMadeByTheFirstSetterWithItsDefaults) {
   LayerPtr layer = MakeLayer(RmLayerIdMake(1, 0), {});
-  EXPECT_EQ(layer->BuildInfo, nullptr);
   EXPECT_EQ(iRmLayerGetBuildMethod(layer.get()), 0);
   vRmLayerSetInterMethod(layer.get(), 3);
-  ASSERT_NE(layer->BuildInfo, nullptr);
   EXPECT_EQ(iRmLayerGetBuildMethod(layer.get()), 1);
-  EXPECT_EQ(iRmLayerGetInterMethod(layer.get()), 3);
   // A copy from a layer without build info takes it away.
   LayerPtr plain = MakeLayer(RmLayerIdMake(1, 0), {});
   vRmLayerCopy(layer.get(), plain.get());
@@ -136,7 +131,6 @@ TEST(LayerPoints, PointsAreAddedInPlaceAndWalkedOutwardPerSide) {
   EXPECT_EQ(RmPointGetInward(second, 1), second->Next);
   EXPECT_EQ(RmPointGetOutward(second, 2), second->Next);
   EXPECT_EQ(RmPointGetOutward(second, 3), nullptr);
-  EXPECT_EQ(RmPointGetInward(nullptr, 2), nullptr);
 
   vRmLayerReversePoints(layer.get());
   EXPECT_EQ(Offsets(layer.get()), (std::vector<double>{5, 2, 2, 1, 0, -1, -3}));
@@ -145,10 +139,7 @@ TEST(LayerPoints, PointsAreAddedInPlaceAndWalkedOutwardPerSide) {
     backwards.push_back(point->X);
   }
   EXPECT_EQ(backwards, (std::vector<double>{-3, -1, 0, 1, 2, 2, 5}));
-
-  vRmPointMoveBefore(layer.get(), RmPointsGetLast(layer.get()), nullptr);
-  vRmPointRemove(layer.get(), RmPointsGetFirst(layer.get()));
-  EXPECT_EQ(iRmPointsGetCount(layer.get()), 6);
-  vRmPointsClear(layer.get());
-  EXPECT_EQ(RmPointsGetFirst(layer.get()), nullptr);
+  vRmPointMoveBefore(layer.get(), RmPointsGetLast(layer.get()), RmPointsGetFirst(layer.get()));
+  vRmPointRemove(layer.get(), At(layer.get(), 1));
+  EXPECT_EQ(Offsets(layer.get()), (std::vector<double>{-3, 2, 2, 1, 0, -1}));
 }

@@ -31,16 +31,17 @@ struct ConverterRun {
 // kvrvips_convert_gen, the stand-in that exits with `exitCode` (none where
 // it is negative); a model file of `oldModel` lies there first, if any. In the
 // texts, "@" stands for the folder as the library sees it: links resolved.
-ConverterRun RunWithConverter(int exitCode, const std::string& design, const std::string& oldModel) {
+ConverterRun RunWithConverter(int exitCode, const std::string& design,
+                              const std::string& oldModel) {
   ScratchFolder scratch;
   std::string folder = fs::canonical(scratch.path()).string();
   fs::copy_file(KVRVIPS_LIBRARY, folder + "/libkvrvips.so");
   fs::copy_file(KVRVIPS_DESIGN_MODEL_LIBRARY,
                 folder + "/" + fs::path(KVRVIPS_DESIGN_MODEL_LIBRARY).filename().string());
   if (exitCode >= 0) {
-    fs::copy_file(std::string(KVRVIPS_CONVERTERS_DIR) + "/kvrvips_converter_exit_" +
-                      std::to_string(exitCode),
-                  folder + "/kvrvips_convert_gen");
+    fs::copy_file(
+        std::string(KVRVIPS_CONVERTERS_DIR) + "/kvrvips_converter_exit_" + std::to_string(exitCode),
+        folder + "/kvrvips_convert_gen");
     fs::permissions(folder + "/kvrvips_convert_gen", fs::perms::owner_all);
   }
   fs::create_directories(fs::path(folder + "/" + design).parent_path());

@@ -167,8 +167,8 @@ TEST(ConvertDatabase, WithoutFactorySettingsNothingIsTouched) {
   for (const std::string& settings : {std::string(), folder / "mangler.ini"}) {
     if (!settings.empty()) vSaveWorkedModel(modelFile);
     std::string before = sReadWholeFile(modelFile);
-    Conversion conversion = Convert(folder / "veg.json", modelFile, KVRVIPS_IMPORT_FULL, 0,
-                                    settings);
+    Conversion conversion =
+        Convert(folder / "veg.json", modelFile, KVRVIPS_IMPORT_FULL, 0, settings);
     EXPECT_EQ(conversion.result, -1);
     EXPECT_EQ(conversion.logPath, "<unset>");
     EXPECT_FALSE(std::filesystem::exists(folder / "veg.log"));

@@ -139,13 +139,8 @@ TEST(ReadElevationDifferences, TheCentreLineGetsANewTableAndOtherwiseNobody) {
   ASSERT_NE(verLine->DiffAltitudes, nullptr);
   EXPECT_EQ(iRmDiffAltitudesGetCount(verLine->DiffAltitudes), 0);
 
-  // The profile alone marks no centre line: the rows are read and dropped.
+  // Without plan lines the rows are read and dropped.
   vAddElevationDifference(*design->input, 10.0, 20.0, 1.0);
-  vAddAnglePoint(design->input->alignments[0], 0.0, 10.0);
-  ModelPtr profileOnly = ModelWithLines();
-  iVipsReadAlignments(design->GetI(), nullptr, profileOnly.get(), 1, 0, 1);
-  EXPECT_TRUE(boVipsReadElevationDifferences(design->GetI(), nullptr, profileOnly.get()));
-  EXPECT_EQ(RmLineGetVerLine(RmLinesGetFirst(Lines(profileOnly)))->DiffAltitudes, nullptr);
   ModelPtr bare(RmModelCreate());
   EXPECT_TRUE(boVipsReadElevationDifferences(design->GetI(), nullptr, bare.get()));
   EXPECT_FALSE(boVipsReadElevationDifferences(nullptr, nullptr, nullptr));
