@@ -130,12 +130,6 @@ void vLiLineSetHeight(LiLine* line, double height) {
   }
 }
 
-void vLiLineClearHeight(LiLine* line) {
-  if (line == nullptr) return;
-  line->boHasHeight = false;
-  line->dHeight = 0.0;
-}
-
 bool boLiLineHasHeight(const LiLine* line) { return line != nullptr && line->boHasHeight; }
 
 double dLiLineGetHeight(const LiLine* line) {
@@ -170,13 +164,6 @@ LiElm LiLineAddArc2PTo(LiLine* line, double x, double y, double radius, bool lar
   const LiElm elm = LiLineAddP2d(line, x, y);
   if (elm > 0 && radius != 0.0) boLiElmSet2pArc(line, elm - 1, radius, large);
   return elm;
-}
-
-LiElm LiLineInsertP(LiLine* line, LiElm before, double x, double y, double z) {
-  if (line == nullptr) return kLiNoElm;
-  if (!boValid(line, before)) return LiLineAddP(line, x, y, z);
-  line->elements.insert(line->elements.begin() + before, MakeElement(x, y, z, kLiElmStraight));
-  return before;
 }
 
 void vLiLineDeleteElm(LiLine* line, LiElm elm) {
@@ -310,14 +297,6 @@ void vLiElmGetP3d(const LiLine* line, LiElm elm, ViPoint3d* point) {
   }
   const LiElement& element = line->elements[static_cast<size_t>(elm)];
   *point = {element.x, element.y, line->bo3d ? element.z : dLiLineGetHeight(line)};
-}
-
-void vLiElmSetP(LiLine* line, LiElm elm, double x, double y, double z) {
-  if (!boValid(line, elm)) return;
-  LiElement& element = line->elements[static_cast<size_t>(elm)];
-  element.x = x;
-  element.y = y;
-  element.z = z;
 }
 
 double dLiElmGetRadius(const LiLine* line, LiElm elm) {

@@ -69,7 +69,6 @@ void vLiLineSetPolygon(LiLine* line, bool boPolygon);
 // The fixed height of a 2D line. On a 3D line setting it also gives every
 // point that height.
 void vLiLineSetHeight(LiLine* line, double height);
-void vLiLineClearHeight(LiLine* line);
 bool boLiLineHasHeight(const LiLine* line);
 double dLiLineGetHeight(const LiLine* line);
 // The GUID text; never null. Setting copies at most kViGuidLength characters.
@@ -90,8 +89,6 @@ LiElm LiLineAddPInvisible(LiLine* line, double x, double y, double z = 0.0);
 // element. A radius of 0, a first point, or a radius too short for the chord
 // leaves a straight instead.
 LiElm LiLineAddArc2PTo(LiLine* line, double x, double y, double radius, bool large = false);
-// Inserts a straight element in front of `before` (kLiNoElm: at the end).
-LiElm LiLineInsertP(LiLine* line, LiElm before, double x, double y, double z);
 void vLiLineDeleteElm(LiLine* line, LiElm elm);
 void vLiLineDeleteElms(LiLine* line);
 
@@ -134,7 +131,6 @@ bool boLiElmSetClotoide(LiLine* line, LiElm elm, double startRadius, double endR
 void vLiElmGetP2d(const LiLine* line, LiElm elm, ViPoint2d* point);
 // The point with its height: on a 2D line the fixed height, or 0.
 void vLiElmGetP3d(const LiLine* line, LiElm elm, ViPoint3d* point);
-void vLiElmSetP(LiLine* line, LiElm elm, double x, double y, double z);
 // Radius and large-arc flag of an arc by two points; 0 and false otherwise.
 double dLiElmGetRadius(const LiLine* line, LiElm elm);
 bool boLiElmIsLarge(const LiLine* line, LiElm elm);

@@ -160,10 +160,6 @@ long lLiLinesGetMemPoolGarbage(const LiLines* lines) {
 
 // ---- User data -----------------------------------------------------------------
 
-int iLiLinesGetUserDataSize(const LiLines* lines) {
-  return lines != nullptr ? lines->iUserDataSize : 0;
-}
-
 void* pLiLineGetUserData(LiLine* line) {
   if (line == nullptr || line->userData.empty()) return nullptr;
   return line->userData.data();

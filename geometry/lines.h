@@ -58,7 +58,6 @@ long lLiLinesGetMemPoolGarbage(const LiLines* lines);
 
 // ---- User data -----------------------------------------------------------------
 
-int iLiLinesGetUserDataSize(const LiLines* lines);
 // The line's user data block, aligned for any type; null when it has none.
 void* pLiLineGetUserData(LiLine* line);
 

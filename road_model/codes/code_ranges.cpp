@@ -70,10 +70,6 @@ bool boRmChainRangeContainsLowClosed(const RmChainRange& range, double chainage)
   return range.Low <= chainage && chainage < range.High;
 }
 
-bool boRmChainRangeContainsHighClosed(const RmChainRange& range, double chainage) {
-  return range.Low < chainage && chainage <= range.High;
-}
-
 bool boRmChainRangeContainsClosed(const RmChainRange& range, double chainage) {
   return range.Low <= chainage && chainage <= range.High;
 }

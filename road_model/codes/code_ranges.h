@@ -23,7 +23,6 @@ struct RmChainRange {
 };
 
 bool boRmChainRangeContainsLowClosed(const RmChainRange& range, double chainage);
-bool boRmChainRangeContainsHighClosed(const RmChainRange& range, double chainage);
 bool boRmChainRangeContainsClosed(const RmChainRange& range, double chainage);
 bool boRmChainRangeContainsOpen(const RmChainRange& range, double chainage);
 // High above low.

@@ -64,4 +64,3 @@ inline void vRmPointSetMark(RmPoint* point, int mark) {
 inline bool boRmPointHasHeight(const RmPoint* point) {
   return point->Z > static_cast<float>(kPresentAbove);
 }
-inline bool boRmPointIsGap(const RmPoint* point) { return !boRmPointHasHeight(point); }
