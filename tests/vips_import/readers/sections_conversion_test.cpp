@@ -76,18 +76,14 @@ std::pair<std::string, std::string> SectionsBeforeAndAfter(const ScratchFolder& 
 
 }  // namespace
 
-TEST(ConvertDatabase, FlagsZeroKeepTheSectionsOfTheModelFileExactly) {
+TEST(ConvertDatabase, FlagsZeroKeepTheSectionsExactlyAndATablesImportMakesThemAnew) {
   ScratchFolder folder;
   auto [before, after] = SectionsBeforeAndAfter(folder, 0);
   for (const char* head : {"[+O_CROSSECTIONS]", "[+L_CSECTSMASSESLINES]", "[+O_LONGSECTIONS]"}) {
     EXPECT_NE(sBody(before, head), "<none>") << head;
     EXPECT_EQ(sBody(after, head), sBody(before, head)) << head;
   }
-}
-
-TEST(ConvertDatabase, ATablesImportMakesTheSectionsAnew) {
-  ScratchFolder folder;
-  std::string after = SectionsBeforeAndAfter(folder, KVRVIPS_IMPORT_TABLES).second;
+  after = SectionsBeforeAndAfter(folder, KVRVIPS_IMPORT_TABLES).second;
   EXPECT_EQ(after.find("CROSSECTIONS"), std::string::npos);
   EXPECT_EQ(after.find("LONGSECTIONS"), std::string::npos);
 }
