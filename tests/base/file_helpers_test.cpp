@@ -7,6 +7,7 @@
 #include <cstring>
 #include <filesystem>
 #include <string>
+#include <utility>
 
 #include "base/clipboard_file.h"
 #include "base/file_names.h"
@@ -30,27 +31,22 @@ TEST(FileNames, ValidNames) {
 }
 
 TEST(FileNames, PathNamesAreCheckedOneByOne) {
-  EXPECT_TRUE(boPathNamesValid("/tmp/x/./../road.sfi~"));
-  EXPECT_TRUE(boPathNamesValid("c:\\work\\road.sfi"));
-  EXPECT_TRUE(boPathNamesValid("relative//road.sfi"));
-  EXPECT_FALSE(boPathNamesValid("/tmp/a:b/road.sfi"));
-  EXPECT_FALSE(boPathNamesValid("/tmp/con/road.sfi"));
-  EXPECT_FALSE(boPathNamesValid("/tmp/road.sfi."));
-  EXPECT_FALSE(boPathNamesValid(""));
+  for (const char* path : {"/tmp/x/./../road.sfi~", "c:\\work\\road.sfi", "relative//road.sfi"}) {
+    EXPECT_TRUE(boPathNamesValid(path)) << path;
+  }
+  for (const char* path : {"/tmp/a:b/road.sfi", "/tmp/con/road.sfi", "/tmp/road.sfi.", ""}) {
+    EXPECT_FALSE(boPathNamesValid(path)) << path;
+  }
   EXPECT_FALSE(boPathNamesValid(nullptr));
 }
 
 TEST(FileNames, SanitiseTakesOutWhatIsRefused) {
-  EXPECT_STREQ(sFileNameSanitise("a<b>:c?.txt"), "abc.txt");
-  EXPECT_STREQ(sFileNameSanitise("tab\there"), "tabhere");
-  EXPECT_STREQ(sFileNameSanitise("name. . "), "name");
-  EXPECT_STREQ(sFileNameSanitise("nul.txt"), "nul_.txt");
-  EXPECT_STREQ(sFileNameSanitise("com1"), "com1_");
-  EXPECT_STREQ(sFileNameSanitise("LPT1."), "LPT1_");
-  EXPECT_STREQ(sFileNameSanitise("c|on"), "con_");
-  EXPECT_STREQ(sFileNameSanitise("COM10"), "COM10");
-  EXPECT_STREQ(sFileNameSanitise("?*"), "");
-  EXPECT_STREQ(sFileNameSanitise(nullptr), "");
+  for (auto [name, sanitised] :
+       {std::pair<const char*, const char*>{"a<b>:c?.txt", "abc.txt"}, {"tab\there", "tabhere"},
+        {"name. . ", "name"}, {"nul.txt", "nul_.txt"}, {"com1", "com1_"}, {"LPT1.", "LPT1_"},
+        {"c|on", "con_"}, {"COM10", "COM10"}, {"?*", ""}, {nullptr, ""}}) {
+    EXPECT_STREQ(sFileNameSanitise(name), sanitised) << (name ? name : "null");
+  }
 }
 
 class TempFilesTest : public ::testing::Test {

@@ -2,12 +2,16 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <filesystem>
 #include <string>
 
 #include "tests/support/scratch_folder.h"
 
 namespace {
+
+using Texts = std::array<const char*, 2>;
+using Paths = std::array<const char*, 3>;
 
 TEST(PathKinds, DrivesUncNamesAndRoots) {
   EXPECT_FALSE(boPathHasDrive("1:\\x"));
@@ -18,14 +22,11 @@ TEST(PathKinds, DrivesUncNamesAndRoots) {
 }
 
 TEST(PathParts, DirectoryFileNameAndExtension) {
-  EXPECT_STREQ(sPathDirectory("c:\\x"), "c:\\");
-  EXPECT_STREQ(sPathDirectory("c:x"), "c:");
-  EXPECT_STREQ(sPathDirectory("x"), "");
-  EXPECT_STREQ(sPathDirectory("a\\b/c.txt"), "a\\b");
-  EXPECT_STREQ(sPathDirectory("c:/x/"), "c:/x");
-  EXPECT_STREQ(sPathDirectory("/tmp/a"), "/tmp");
-  EXPECT_STREQ(sPathDirectory("/a"), "/");
-  EXPECT_STREQ(sPathDirectory(nullptr), "");
+  for (auto [path, directory] : {Texts{"c:\\x", "c:\\"}, {"c:x", "c:"}, {"x", ""},
+                                 {"a\\b/c.txt", "a\\b"}, {"c:/x/", "c:/x"}, {"/tmp/a", "/tmp"},
+                                 {"/a", "/"}, {nullptr, ""}}) {
+    EXPECT_STREQ(sPathDirectory(path), directory) << (path ? path : "null");
+  }
 
   char out[kPathSize];
   EXPECT_STREQ(sPathFileNameTo("c:x", out, sizeof out), "x");
@@ -45,41 +46,40 @@ TEST(PathParts, DirectoryFileNameAndExtension) {
 }
 
 TEST(PathJoin, KeepsWindowsRulesAndThePlatformsOwnForm) {
-  EXPECT_STREQ(sPathJoin("c:\\a", "b"), "c:\\a\\b");
-  EXPECT_STREQ(sPathJoin("c:", "b"), "c:b");
-  EXPECT_STREQ(sPathJoin("c:/a/", "b"), "c:/a/\\b");
-  EXPECT_STREQ(sPathJoin("", "b"), "b");
-  EXPECT_STREQ(sPathJoin("/tmp", "b"), "/tmp/b");
-  EXPECT_STREQ(sPathJoin("/tmp/", "b"), "/tmp/b");
+  for (auto [directory, joined] : {Texts{"c:\\a", "c:\\a\\b"}, {"c:", "c:b"}, {"", "b"},
+                                   {"c:/a/", "c:/a/\\b"}, {"/tmp", "/tmp/b"},
+                                   {"/tmp/", "/tmp/b"}}) {
+    EXPECT_STREQ(sPathJoin(directory, "b"), joined) << directory;
+  }
   char small[6];
   EXPECT_STREQ(sPathJoinTo("abc", "def", small, sizeof small), "abc/d");
 
-  char components[kPathSize];
-  const char* rest = PathNextComponent("c:\\a/b", components, sizeof components);
-  EXPECT_STREQ(components, "c:");
-  rest = PathNextComponent(rest, components, sizeof components);
-  EXPECT_STREQ(components, "a");
-  rest = PathNextComponent(rest, components, sizeof components);
-  EXPECT_STREQ(components, "b");
+  char component[kPathSize];
+  const char* rest = "c:\\a/b";
+  for (const char* expected : {"c:", "a", "b"}) {
+    rest = PathNextComponent(rest, component, sizeof component);
+    EXPECT_STREQ(component, expected);
+  }
   EXPECT_EQ(*rest, 0);
-  EXPECT_EQ(PathNextComponent(nullptr, components, sizeof components), nullptr);
+  EXPECT_EQ(PathNextComponent(nullptr, component, sizeof component), nullptr);
 }
 
 TEST(PathRelative, WalksSharedComponentsIgnoringCase) {
-  EXPECT_STREQ(sPathRelative("c:\\a\\b", "c:\\a\\c\\f.txt"), "..\\c\\f.txt");
-  EXPECT_STREQ(sPathRelative("c:\\a", "C:\\A\\x\\y"), "x\\y");
-  EXPECT_STREQ(sPathRelative("c:\\a\\b", "c:\\a"), "..");
-  EXPECT_STREQ(sPathRelative("c:\\a", "d:\\x"), "d:\\x");
-  EXPECT_STREQ(sPathRelative("/data/veg", "/data/veg/m.sfi"), "m.sfi");
-  EXPECT_STREQ(sPathRelative("/data/veg", "/data/bane/m.sfi"), "../bane/m.sfi");
   std::string tooLong(kPathSize, 'a');
-  EXPECT_STREQ(sPathRelative(tooLong.c_str(), "a"), "");
-
-  EXPECT_STREQ(sPathRelativeOrFull("c:\\a", "b\\c.txt"), "b\\c.txt");
-  EXPECT_STREQ(sPathRelativeOrFull("c:\\a", "d:\\x"), "d:\\x");
-  EXPECT_STREQ(sPathRelativeOrFull("/data/veg", "sub/m.sfi"), "sub/m.sfi");
-  EXPECT_STREQ(sPathRelativeOrFull("/data/veg", "../bane/m.sfi"), "/data/bane/m.sfi");
-  EXPECT_STREQ(sPathRelativeOrFull("/data/veg", "/other/m.sfi"), "/other/m.sfi");
+  for (auto [from, to, path] :
+       {Paths{"c:\\a\\b", "c:\\a\\c\\f.txt", "..\\c\\f.txt"}, {"c:\\a", "C:\\A\\x\\y", "x\\y"},
+        {"c:\\a\\b", "c:\\a", ".."}, {"c:\\a", "d:\\x", "d:\\x"}, {tooLong.c_str(), "a", ""},
+        {"/data/veg", "/data/veg/m.sfi", "m.sfi"},
+        {"/data/veg", "/data/bane/m.sfi", "../bane/m.sfi"}}) {
+    EXPECT_STREQ(sPathRelative(from, to), path) << from << " " << to;
+  }
+  // Taken against the first, relative only inside it.
+  for (auto [from, to, path] :
+       {Paths{"c:\\a", "b\\c.txt", "b\\c.txt"}, {"c:\\a", "d:\\x", "d:\\x"},
+        {"/data/veg", "sub/m.sfi", "sub/m.sfi"}, {"/data/veg", "../bane/m.sfi", "/data/bane/m.sfi"},
+        {"/data/veg", "/other/m.sfi", "/other/m.sfi"}}) {
+    EXPECT_STREQ(sPathRelativeOrFull(from, to), path) << from << " " << to;
+  }
 }
 
 TEST(PathSystem, FullPathsSamePlacesAndExistence) {

@@ -15,34 +15,25 @@
 
 namespace {
 
-// The number of arguments that the helper program saw.
-std::string sArgumentCountOf(const std::string& commandTail, int* outExitCode) {
-  ScratchFolder folder;
-  std::string countFile = folder / "count";
-  *outExitCode = iRunProcess((std::string(KVRVIPS_EXIT_WITH) + " 0 " + countFile + commandTail).c_str());
-  return sReadWholeFile(countFile);
-}
-
 TEST(RunProcess, ExitCodesAndFailuresToStart) {
   EXPECT_EQ(iRunProcess(KVRVIPS_EXIT_WITH " 3"), 3);
-  EXPECT_EQ(iRunProcess("/no/such/program 1"), kRunProcessNotStarted);
-  EXPECT_EQ(iRunProcess("kvrvips_no_such_program_anywhere"), kRunProcessNotStarted);
-  EXPECT_EQ(iRunProcess(""), kRunProcessNotStarted);
-  EXPECT_EQ(iRunProcess("   "), kRunProcessNotStarted);
+  for (const char* line : {"/no/such/program 1", "kvrvips_no_such_program_anywhere", "", "   "}) {
+    EXPECT_EQ(iRunProcess(line), kRunProcessNotStarted) << line;
+  }
   EXPECT_EQ(iRunProcess(nullptr), kRunProcessNotStarted);
 }
 
 TEST(RunProcess, CommandLineIsSplitAtBlanksAndCut) {
-  int exitCode = -1;
-  // "0", the count file, and a path with blanks that falls apart in three.
-  EXPECT_EQ(sArgumentCountOf(" /work/my road  model.gen", &exitCode), "5");
-  EXPECT_EQ(exitCode, 0);
-
-  // Only the first 2000 characters of the line are used.
-  std::string head = std::string(KVRVIPS_EXIT_WITH) + " 0 ";
+  // The helper writes the number of arguments that it saw to the count file.
   ScratchFolder folder;
   std::string countFile = folder / "count";
-  std::string line = head + countFile;
+  std::string head = std::string(KVRVIPS_EXIT_WITH) + " 0 " + countFile;
+  // "0", the count file, and a path with blanks that falls apart in three.
+  EXPECT_EQ(iRunProcess((head + " /work/my road  model.gen").c_str()), 0);
+  EXPECT_EQ(sReadWholeFile(countFile), "5");
+
+  // Only the first 2000 characters of the line are used.
+  std::string line = head;
   size_t wordsWithin = 0;
   while (line.size() + 2 <= 2000) {
     line += " x";
@@ -110,7 +101,8 @@ TEST(Files, ExclusiveOpenKeepsOtherWritersOut) {
   std::string path = folder / "held.sfi";
   vWriteWholeFile(path, "content");
   int error = 0;
-  PlatformFile held = hPlatformFileOpen(path.c_str(), PlatformOpenMode::kReadWriteAlways, true, &error);
+  PlatformFile held =
+      hPlatformFileOpen(path.c_str(), PlatformOpenMode::kReadWriteAlways, true, &error);
   ASSERT_NE(held, kPlatformNoFile);
 
   EXPECT_EQ(hPlatformFileOpen(path.c_str(), PlatformOpenMode::kReadWriteAlways, true, &error),
@@ -121,12 +113,14 @@ TEST(Files, ExclusiveOpenKeepsOtherWritersOut) {
             kPlatformNoFile);
   EXPECT_EQ(sReadWholeFile(path), "content");
   // Readers that share are let in.
-  PlatformFile reader = hPlatformFileOpen(path.c_str(), PlatformOpenMode::kReadExisting, false, &error);
+  PlatformFile reader =
+      hPlatformFileOpen(path.c_str(), PlatformOpenMode::kReadExisting, false, &error);
   EXPECT_NE(reader, kPlatformNoFile);
   boPlatformFileClose(reader);
 
   EXPECT_TRUE(boPlatformFileClose(held));
-  PlatformFile again = hPlatformFileOpen(path.c_str(), PlatformOpenMode::kReadWriteCreate, true, &error);
+  PlatformFile again =
+      hPlatformFileOpen(path.c_str(), PlatformOpenMode::kReadWriteCreate, true, &error);
   ASSERT_NE(again, kPlatformNoFile);
   boPlatformFileClose(again);
   EXPECT_EQ(sReadWholeFile(path), "");

@@ -60,10 +60,8 @@ inline testing::AssertionResult AtLength(const LiLine* line, double length, doub
 // Whether `extent` is (minX, minY, maxX, maxY) within `tolerance`.
 inline testing::AssertionResult ExtentNear(const ViExtent& extent, double minX, double minY,
                                            double maxX, double maxY, double tolerance = 1e-9) {
-  if (std::fabs(extent.dMinX - minX) <= tolerance && std::fabs(extent.dMinY - minY) <= tolerance &&
-      std::fabs(extent.dMaxX - maxX) <= tolerance && std::fabs(extent.dMaxY - maxY) <= tolerance) {
-    return testing::AssertionSuccess();
-  }
-  return testing::AssertionFailure() << std::setprecision(17) << "extent " << extent.dMinX << " "
-                                     << extent.dMinY << " " << extent.dMaxX << " " << extent.dMaxY;
+  const ViPoint2d low{extent.dMinX, extent.dMinY}, high{extent.dMaxX, extent.dMaxY};
+  testing::AssertionResult lowNear = Near(low, minX, minY, tolerance);
+  if (!lowNear) return lowNear << " at the lower corner";
+  return Near(high, maxX, maxY, tolerance) << " at the upper corner";
 }

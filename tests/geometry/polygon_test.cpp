@@ -80,24 +80,22 @@ TEST(PolygonClip, ThreeOperationsOnOverlappingSquares) {
   OwnedPolygon a(Rectangle(0.0, 0.0, 10.0, 10.0));
   OwnedPolygon b(Rectangle(5.0, 0.0, 15.0, 10.0));
 
-  OwnedPolygon both(pYgPolygonPolygonClip(a, b, kYgClipIntersection));
-  ASSERT_NE(both, nullptr);
-  EXPECT_TRUE(boLiLineIsPolygon(both));
-  EXPECT_NEAR(dYgPolygonArea(both, nullptr), 50.0, 1e-9);
-  ViExtent extent;
-  vYgPolygonGetExtent(both, &extent);
-  EXPECT_TRUE(ExtentNear(extent, 5.0, 0.0, 10.0, 10.0));
-
-  OwnedPolygon left(pYgPolygonPolygonClip(a, b, kYgClipDifference));
-  ASSERT_NE(left, nullptr);
-  EXPECT_NEAR(dYgPolygonArea(left, nullptr), 50.0, 1e-9);
-  vYgPolygonGetExtent(left, &extent);
-  EXPECT_TRUE(ExtentNear(extent, 0.0, 0.0, 5.0, 10.0));
-
-  OwnedPolygon all(pYgPolygonPolygonClip(a, b, kYgClipUnion));
-  ASSERT_NE(all, nullptr);
-  EXPECT_NEAR(dYgPolygonArea(all, nullptr), 150.0, 1e-9);
-  EXPECT_EQ(PartAreas(all).size(), 1u);
+  struct Case {
+    int operation;
+    double area, minX, maxX;
+  };
+  for (auto [operation, area, minX, maxX] : {Case{kYgClipIntersection, 50.0, 5.0, 10.0},
+                                             {kYgClipDifference, 50.0, 0.0, 5.0},
+                                             {kYgClipUnion, 150.0, 0.0, 15.0}}) {
+    OwnedPolygon result(pYgPolygonPolygonClip(a, b, operation));
+    ASSERT_NE(result, nullptr) << operation;
+    EXPECT_TRUE(boLiLineIsPolygon(result));
+    EXPECT_NEAR(dYgPolygonArea(result, nullptr), area, 1e-9) << operation;
+    EXPECT_EQ(PartAreas(result).size(), 1u) << operation;
+    ViExtent extent;
+    vYgPolygonGetExtent(result, &extent);
+    EXPECT_TRUE(ExtentNear(extent, minX, 0.0, maxX, 10.0)) << operation;
+  }
 
   // Nothing in common, an unknown operation, empty operands.
   OwnedPolygon away(Rectangle(20.0, 0.0, 21.0, 1.0));

@@ -4,6 +4,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "base/platform.h"
 #include "design_model/document.h"
@@ -12,10 +13,9 @@
 
 namespace {
 
-// What the converter's exit code arrives as, the way the export starts it:
-// the program's path, a blank and the rest of the command line.
-int iRunConverter(const std::string& commandTail) {
-  return iPlatformRunProcess((std::string(KVRVIPS_CONVERT_GEN) + commandTail).c_str());
+ProgramRun RunConverter(std::vector<std::string> arguments) {
+  arguments.insert(arguments.begin(), KVRVIPS_CONVERT_GEN);
+  return RunProgram(arguments);
 }
 
 const std::string kSparseDesign =
@@ -26,59 +26,53 @@ TEST(ConvertGen, RewritesAValidDocumentInTheCurrentFormat) {
   ScratchFolder folder;
   const std::string design = folder / "design.json";
   vWriteWholeFile(design, kSparseDesign);
-
-  EXPECT_EQ(iRunConverter(" " + design), iPlatformExitCodeOf(1001));
   std::unique_ptr<NpDesignModel::DesignModelRecord> expected =
       NpDesignModel::ReadDocumentText(kSparseDesign, nullptr);
   ASSERT_TRUE(expected);
-  EXPECT_EQ(sReadWholeFile(design), NpDesignModel::sDocumentText(*expected, true));
   // A second run finds the document already current and leaves it the same.
-  const std::string once = sReadWholeFile(design);
-  EXPECT_EQ(iRunConverter(" " + design), iPlatformExitCodeOf(1001));
-  EXPECT_EQ(sReadWholeFile(design), once);
+  for (int run = 1; run <= 2; ++run) {
+    EXPECT_EQ(RunConverter({design}).iStatus, iPlatformExitCodeOf(1001)) << run;
+    EXPECT_EQ(sReadWholeFile(design), NpDesignModel::sDocumentText(*expected, true)) << run;
+  }
 }
 
-TEST(ConvertGen, ExitCodesTellMissingAndBadDocuments) {
+TEST(ConvertGen, ExitCodesTellMissingAndBadDocumentsAndStandardErrorWhy) {
   ScratchFolder folder;
-  EXPECT_EQ(iRunConverter(" " + folder / "missing.json"), iPlatformExitCodeOf(1000));
-  EXPECT_EQ(iRunConverter(" " + folder.path()), iPlatformExitCodeOf(1000));
+  for (const std::string& path : {folder / "missing.json", folder.path()}) {
+    ProgramRun run = RunConverter({path});
+    EXPECT_EQ(run.iStatus, iPlatformExitCodeOf(1000)) << path;
+    EXPECT_EQ(run.sErr, "kvrvips_convert_gen: no design document at " + path + "\n");
+  }
 
   const std::string design = folder / "design.json";
-  for (const std::string& bad : {std::string("not json"),
-                                std::string(R"({"format":"design-model","formatVersion":2})"),
-                                std::string(R"({"format":"road","formatVersion":1})"),
-                                std::string(R"({"format":"design-model","formatVersion":1,)"
-                                            R"("input":{"modelType":"road"}})")}) {
+  const std::string wrongKind =
+      R"({"format":"design-model","formatVersion":1,"input":{"modelType":"road"}})";
+  for (const std::string& bad :
+       {std::string("not json"), std::string(R"({"format":"design-model","formatVersion":2})"),
+        std::string(R"({"format":"road","formatVersion":1})"), wrongKind}) {
     vWriteWholeFile(design, bad);
-    EXPECT_EQ(iRunConverter(" " + design), iPlatformExitCodeOf(999)) << bad;
+    ProgramRun run = RunConverter({design});
+    EXPECT_EQ(run.iStatus, iPlatformExitCodeOf(999)) << bad;
+    EXPECT_EQ(run.sOut, "") << bad;
     EXPECT_EQ(sReadWholeFile(design), bad);
+    if (bad == wrongKind) {
+      EXPECT_EQ(run.sErr, "kvrvips_convert_gen: " + design +
+                              " is not a valid design document\n"
+                              "  at /input/modelType: expected an integer from -2147483648 to "
+                              "2147483647\n");
+    }
   }
 
   // Not a single design path: no argument, two of them (a path with a blank
   // reaches the converter as two), or an option.
   vWriteWholeFile(design, kSparseDesign);
-  EXPECT_EQ(iRunConverter(""), iPlatformExitCodeOf(1));
-  EXPECT_EQ(iRunConverter(" " + design + " " + design), iPlatformExitCodeOf(1));
-  EXPECT_EQ(iRunConverter(" --help"), iPlatformExitCodeOf(1));
+  for (const std::vector<std::string>& arguments :
+       {std::vector<std::string>{}, {design, design}, {"--help"}}) {
+    ProgramRun run = RunConverter(arguments);
+    EXPECT_EQ(run.iStatus, iPlatformExitCodeOf(1)) << arguments.size();
+    EXPECT_TRUE(run.sErr.starts_with("usage: kvrvips_convert_gen DESIGN\n")) << run.sErr;
+  }
   EXPECT_EQ(sReadWholeFile(design), kSparseDesign);
-}
-
-TEST(ConvertGen, TellsWhyOnStandardError) {
-  ScratchFolder folder;
-  const std::string design = folder / "design.json";
-  vWriteWholeFile(design, R"({"format":"design-model","formatVersion":1,"input":{"modelType":"road"}})");
-  ProgramRun run = RunProgram({KVRVIPS_CONVERT_GEN, design});
-  EXPECT_EQ(run.sOut, "");
-  EXPECT_EQ(run.sErr, "kvrvips_convert_gen: " + design +
-                          " is not a valid design document\n"
-                          "  at /input/modelType: expected an integer from -2147483648 to "
-                          "2147483647\n");
-
-  run = RunProgram({KVRVIPS_CONVERT_GEN, folder / "missing.json"});
-  EXPECT_EQ(run.sErr, "kvrvips_convert_gen: no design document at " + folder / "missing.json" + "\n");
-
-  run = RunProgram({KVRVIPS_CONVERT_GEN});
-  EXPECT_TRUE(run.sErr.starts_with("usage: kvrvips_convert_gen DESIGN\n")) << run.sErr;
 }
 
 }  // namespace

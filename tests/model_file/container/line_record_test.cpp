@@ -193,11 +193,7 @@ TEST(AsfLineRecord, DimensionPolygonMarkAndGuidGoBothWays) {
   LiLineAddP2d(flat, 5, 6);
   LiLine* empty = LiLinesCreate2dLine(lines, 3);
 
-  RecordWriter writer(kAsfTypeLine, {});
-  for (LiLine* line : {spatial, flat, empty}) {
-    EXPECT_TRUE(boAsfLineWrite(writer.file, writer.section, line, nullptr, nullptr));
-  }
-  std::string bytes = writer.Finish();
+  std::string bytes = WrittenRecords(kAsfTypeLine, boAsfLineWrite, {spatial, flat, empty});
   EXPECT_EQ(BodyOf(bytes),
             ":L 1\r\n_EXTENT -3 2 2 4 \r\nGUID {0A1B}\r\n_ASPOLY\r\n/XYZ\r\n"
             "1.5 2.25 100.125\r\n-3 4 -0.5\r\n"
@@ -316,38 +312,36 @@ TEST(AsfLineRecord, OlderRecordsOfEveryKindReadFromOneLayer) {
       ":P 6\r\nANG 1.25\r\n3 4\r\n"
       ":L 5\r\nKIND \"kerb\"\r\n"
       ":T 7\r\nrot 0.5\r\nalign 3\r\nlbl \"Main road\"\r\n7 8 9\r\n";
-  OwnedFile file(AsfFileOpenMem(bytes.data(), bytes.size()));
-  ASSERT_NE(file, nullptr);
-  AsfSection* section = AsfSectionFind(file, "ROADS", kAsfTypeLine);
-  ASSERT_NE(section, nullptr);
+  RecordReader roads(bytes, kAsfTypeLine, "ROADS");
+  ASSERT_NE(roads.section, nullptr);
   OwnedLines lines(LiLinesCreate(0, 0));
-  LiLine* line = ReadNextLine(file, section, lines);
+  LiLine* line = ReadNextLine(roads.file, roads.section, lines);
   ASSERT_NE(line, nullptr);
-  EXPECT_EQ(ReadValues(file, section),
+  EXPECT_EQ(ReadValues(roads.file, roads.section),
             (std::vector<std::string>{"A very long name of more than", "ditch"}));
   EXPECT_TRUE(boLiLineIsPolygon(line));
   EXPECT_FALSE(boLiLineIs3d(line));
   EXPECT_EQ(Types(line), (std::vector<int>{0, kLiElmArc2p, kLiElmInvisible}));
   // A record without number lines is a line without elements.
-  line = ReadNextLine(file, section, lines);
+  line = ReadNextLine(roads.file, roads.section, lines);
   ASSERT_NE(line, nullptr);
   EXPECT_EQ(lLiLineGetID(line), 5);
-  EXPECT_EQ(ReadValues(file, section), (std::vector<std::string>{"", "kerb"}));
+  EXPECT_EQ(ReadValues(roads.file, roads.section), (std::vector<std::string>{"", "kerb"}));
   EXPECT_FALSE(boLiLineIsPolygon(line));
   EXPECT_EQ(iLiLineGetElmCount(line), 0);
-  EXPECT_EQ(iAsfObjectNext(file, section, nullptr), -1);
+  EXPECT_EQ(roads.Next(), -1);
 
   // Points and texts of the same layer, their rotation as it stands.
-  section = AsfSectionFind(file, "ROADS", kAsfTypePoint);
-  ASSERT_EQ(iAsfObjectNext(file, section, nullptr), kAsfTypePoint);
+  RecordReader points(bytes, kAsfTypePoint, "ROADS");
+  EXPECT_EQ(RecordIds(points), std::vector<long>{6});
+  ASSERT_TRUE(boAsfObjectFind(points.file, points.section, 6));
   OwnedPoint point(PoPointCreate());
-  ASSERT_TRUE(boAsfPointRead(file, section, point));
+  ASSERT_TRUE(boAsfPointRead(points.file, points.section, point));
   EXPECT_EQ(dPoPointGetRotation(point), 1.25);
-  EXPECT_EQ(iAsfObjectNext(file, section, nullptr), -1);
-  section = AsfSectionFind(file, "ROADS", kAsfTypeText);
-  ASSERT_EQ(iAsfObjectNext(file, section, nullptr), kAsfTypeText);
+  RecordReader texts(bytes, kAsfTypeText, "ROADS");
+  ASSERT_EQ(texts.Next(), kAsfTypeText);
   OwnedText text(TeTextCreate());
-  ASSERT_TRUE(boAsfTextRead(file, section, text));
+  ASSERT_TRUE(boAsfTextRead(texts.file, texts.section, text));
   EXPECT_EQ(dTeTextGetRotation(text), 0.5);
   EXPECT_EQ(iTeTextGetAlign(text), 3);
   EXPECT_STREQ(sTeTextGetLabel(text), "Main road");

@@ -51,9 +51,7 @@ TrTriangle TriangleOf(const TrNet* net, int index) {
 
 TEST(AsfNetRecord, NetsAreWrittenAgainstTheirOffsetAndReadBack) {
   OwnedNet net(MakeNet());
-  RecordWriter writer(kAsfTypeNet, {});
-  EXPECT_TRUE(boAsfNetWrite(writer.file, writer.section, net, nullptr, nullptr));
-  std::string bytes = writer.Finish();
+  std::string bytes = WrittenRecords(kAsfTypeNet, boAsfNetWrite, {net});
   EXPECT_EQ(BodyOf(bytes),
             ":N 31\r\n_EXTENT 1000 2000 1010 2011 \r\nGUID {N}\r\n_#POINTS 3\r\n"
             "_#TRIANGLES 1\r\n_OFFSET_NE 1000.000000 2000.000000\r\n"
@@ -92,13 +90,10 @@ TEST(AsfNetRecord, NetsAreWrittenAgainstTheirOffsetAndReadBack) {
 
 TEST(AsfNetRecord, CloudsFillAttributeLinesToSixteenAndMayHaveNoPoints) {
   const int counts[] = {16, 0, 17};
+  OwnedCloud full(MakeCloud(41, 16)), empty(MakeCloud(42, 0)), more(MakeCloud(43, 17));
   FieldValues fields{{"a"}};
-  RecordWriter writer(kAsfTypeCloud, {"F"});
-  for (int i = 0; i < 3; ++i) {
-    OwnedCloud cloud(MakeCloud(41 + i, counts[i]));
-    EXPECT_TRUE(boAsfCloudWrite(writer.file, writer.section, cloud, boFieldValue, &fields));
-  }
-  std::string bytes = writer.Finish();
+  std::string bytes =
+      WrittenRecords(kAsfTypeCloud, boAsfCloudWrite, {full, empty, more}, {"F"}, &fields);
   std::string body = BodyOf(bytes);
   EXPECT_EQ(body.substr(0, body.find(":C 43")),
             ":C 41\r\n_EXTENT 0 0 15 0 \r\n_FIELDVALUES a;\r\nGUID \r\n_#POINTS 16\r\n"

@@ -71,11 +71,7 @@ TEST(AsfPointRecord, TextsKeepAlignAndLabelAndEmptyLabelsAreLeftOut) {
   vTeTextSetGuid(sign, "{T}");
   OwnedText blank(MakeText(22, 0, 2, ""));
   OwnedText broken(MakeText(23, 0, 0, "upper\nlower"));
-  RecordWriter writer(kAsfTypeText, {});
-  for (TeText* text : {sign.get(), blank.get(), broken.get()}) {
-    EXPECT_TRUE(boAsfTextWrite(writer.file, writer.section, text, nullptr, nullptr));
-  }
-  std::string bytes = writer.Finish();
+  std::string bytes = WrittenRecords(kAsfTypeText, boAsfTextWrite, {sign, blank, broken});
   // The label is written as it stands: a line break in it breaks the record.
   EXPECT_EQ(BodyOf(bytes),
             ":T 21\r\nGUID {T}\r\n_rot -90.00\r\n_align 5\r\n_label Road 7\r\n/XYZ\r\n1 2 3\r\n"

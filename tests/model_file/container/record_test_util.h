@@ -5,7 +5,9 @@
 
 #include <gtest/gtest.h>
 
+#include <initializer_list>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 #include "model_file/container/asf_file.h"
@@ -34,13 +36,43 @@ struct RecordWriter {
   AsfSection* section = nullptr;
 };
 
+// The values that the field callback gives, by index.
+struct FieldValues {
+  std::vector<std::string> values;
+};
+
+inline bool boFieldValue(void* datum, const void*, int index, const char** text) {
+  const FieldValues* fields = static_cast<const FieldValues*>(datum);
+  if (index < 0 || static_cast<size_t>(index) >= fields->values.size()) return false;
+  *text = fields->values[static_cast<size_t>(index)].c_str();
+  return true;
+}
+
+// The bytes of a memory container whose section "S" of `type`, with the
+// field names `fields`, holds a record of each object, written by `write`
+// with the values of `values` (none when null).
+template <typename Object>
+std::string WrittenRecords(int type,
+                           bool (*write)(AsfFile*, AsfSection*, const Object*, AsfFieldCallback,
+                                         void*),
+                           std::type_identity_t<std::initializer_list<const Object*>> objects,
+                           const std::vector<std::string>& fields = {},
+                           FieldValues* values = nullptr) {
+  RecordWriter writer(type, fields);
+  AsfFieldCallback callback = values ? boFieldValue : nullptr;
+  for (const Object* object : objects) {
+    EXPECT_TRUE(write(writer.file, writer.section, object, callback, values));
+  }
+  return writer.Finish();
+}
+
 // A memory read handle on a copy of `bytes`, which it reads in place, and
-// its section "S" of `type`.
+// its section `name` of `type`.
 struct RecordReader {
-  RecordReader(const std::string& bytes, int type)
+  RecordReader(const std::string& bytes, int type, const char* name = "S")
       : bytes(bytes),
         file(AsfFileOpenMem(this->bytes.data(), this->bytes.size())),
-        section(file ? AsfSectionFind(file, "S", type) : nullptr) {}
+        section(file ? AsfSectionFind(file, name, type) : nullptr) {}
   // The type of the next record, with its id in *id; -1 at the end.
   int Next(long* id = nullptr) { return iAsfObjectNext(file, section, id); }
 
@@ -70,18 +102,6 @@ inline std::string FileWithBody(char letter, const std::string& fieldNames,
   if (!fieldNames.empty()) text += "_FIELDNAMES " + fieldNames + "\r\n";
   text += std::string("[+") + letter + "_S]\r\n" + body + "[END]\r\n";
   return text;
-}
-
-// The values that the field callback gives, by index.
-struct FieldValues {
-  std::vector<std::string> values;
-};
-
-inline bool boFieldValue(void* datum, const void*, int index, const char** text) {
-  const FieldValues* fields = static_cast<const FieldValues*>(datum);
-  if (index < 0 || static_cast<size_t>(index) >= fields->values.size()) return false;
-  *text = fields->values[static_cast<size_t>(index)].c_str();
-  return true;
 }
 
 // The values of the record read last, by field.
