@@ -161,7 +161,6 @@ TEST(ModelLoad, FilesThatCannotBeReadLeaveTheModelAsItWas) {
   vWriteWholeFile(folder / "other.sfi", otherType);
   EXPECT_FALSE(boRmModelLoad(model.get(), (folder / "other.sfi").c_str()));
   expectUnchanged("other type");
-  expectUnchanged("other type");
   EXPECT_TRUE(messages.texts().empty());
 
   // The type compares without regard to case.
@@ -226,24 +225,33 @@ TEST(ModelSave, ASaveReplacesTheTargetWithACompleteFile) {
   EXPECT_FALSE(boRmModelSave(unnamed.get(), nullptr));
 }
 
-TEST(ModelSave, ASaveThatCannotWriteLeavesTheOldFileAsItWas) {
-  ScratchFolder folder;
-  std::string path = folder / "veg.sfi";
-  ModelPtr model = MarkedModel("Nor");
-  ASSERT_TRUE(boRmModelSave(model.get(), path.c_str()));
-  std::string before = sReadWholeFile(path);
-
-  vRmModelSetMarket(model.get(), "Swe");
-  vRmModelSetDirty(model.get(), true);
-  {
-    FileSizeLimit limit(200);
-    ASSERT_TRUE(limit.active());
-    EXPECT_FALSE(boRmModelSave(model.get(), nullptr));
+// A save that fails, in the writing (as on a full disk) or in the flush,
+// leaves the old file as it was and the model dirty; a failed flush also
+// takes its temporary file away.
+TEST(ModelSave, ASaveThatFailsLeavesTheOldFileAsItWas) {
+  for (bool failedFlush : {false, true}) {
+    ScratchFolder folder;
+    std::string path = folder / "veg.sfi";
+    ModelPtr model = MarkedModel("Nor");
+    ASSERT_TRUE(boRmModelSave(model.get(), path.c_str()));
+    std::string before = sReadWholeFile(path);
+    vRmModelSetMarket(model.get(), "Swe");
+    vRmModelSetDirty(model.get(), true);
+    if (failedFlush) {
+      FlushWatch watch(path, true);
+      EXPECT_FALSE(boRmModelSave(model.get(), nullptr));
+      EXPECT_EQ(flushes.size(), 1u);
+      EXPECT_EQ(iTemporaryFiles(folder.path()), 0);
+    } else {
+      FileSizeLimit limit(200);
+      ASSERT_TRUE(limit.active());
+      EXPECT_FALSE(boRmModelSave(model.get(), nullptr));
+    }
+    EXPECT_EQ(sReadWholeFile(path), before) << failedFlush;
+    EXPECT_EQ(model->Dirty, 1) << failedFlush;
   }
-  EXPECT_EQ(sReadWholeFile(path), before);
-  EXPECT_EQ(model->Dirty, 1);
-
   // A write that fails only when the last buffered bytes go out counts.
+  ModelPtr model = MarkedModel("Nor");
   if (boFileExists("/dev/full")) {
     EXPECT_FALSE(boRmModelWrite(model.get(), "/dev/full"));
   }
@@ -269,23 +277,6 @@ TEST(ModelSave, TheTemporaryFileIsFlushedWholeBeforeItTakesTheTargetsPlace) {
   EXPECT_TRUE(directory.directory);
   EXPECT_EQ(directory.path, folder.path());
   EXPECT_EQ(directory.target, written);
-}
-
-TEST(ModelSave, AFailedFlushLeavesTheOldFileAsItWasAndNoTemporaryFile) {
-  ScratchFolder folder;
-  std::string path = folder / "veg.sfi";
-  ModelPtr model = MarkedModel("Nor");
-  ASSERT_TRUE(boRmModelSave(model.get(), path.c_str()));
-  std::string before = sReadWholeFile(path);
-
-  vRmModelSetMarket(model.get(), "Swe");
-  vRmModelSetDirty(model.get(), true);
-  FlushWatch watch(path, true);
-  EXPECT_FALSE(boRmModelSave(model.get(), nullptr));
-  EXPECT_EQ(flushes.size(), 1u);
-  EXPECT_EQ(sReadWholeFile(path), before);
-  EXPECT_EQ(iTemporaryFiles(folder.path()), 0);
-  EXPECT_EQ(model->Dirty, 1);
 }
 
 TEST(ModelSave, ASaveToANewPathTakesTheNameEvenWhenItFails) {
