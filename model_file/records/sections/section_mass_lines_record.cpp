@@ -74,6 +74,7 @@ OutlineKey KeyOfRecord(AsfFile* file, AsfSection* section) {
   return key;
 }
 
+// Whether some mass of the set has an outline.
 bool boHasMassLines(const RmSectionSet* set) {
   for (const RmSection* section = RmSectionsGetFirst(set); section; section = section->Next) {
     for (const RmMass* mass = RmSectionMassesGetFirst(section); mass; mass = mass->Next) {
@@ -89,6 +90,7 @@ void vSetFieldNames(AsfFile* file, AsfSection* section) {
   vAsfFieldNameSet(file, section, kExactLineIndex, kExactLineField);
 }
 
+// One ":L" record per outline: the exact one first, then the simplified.
 void vWriteRecords(AsfFile* file, AsfSection* section, const RmSectionSet* set) {
   OutlineFields fields{};
   for (const RmSection* walk = RmSectionsGetFirst(set); walk; walk = walk->Next) {
@@ -107,6 +109,8 @@ void vWriteRecords(AsfFile* file, AsfSection* section, const RmSectionSet* set) 
   }
 }
 
+// Hangs each outline on the mass of its id in the section of its chainage
+// (within 0.001); an outline without a mass is dropped.
 void vReadRecords(AsfFile* file, AsfSection* section, RmSectionSet* set) {
   if (!set) return;
   RmSection* lastFound = RmSectionsGetFirst(set);
