@@ -146,6 +146,7 @@ void vRead(AsfFile* file, AsfSection* section, RmModel* model, const RmRecordFam
 
 }  // namespace
 
+// The plan lines' section has the empty name: its head is "[L_]".
 const RmRecordFamily kRmPlanLinesFamily = {
     .Keyword = "",
     .Letter = 'L',
