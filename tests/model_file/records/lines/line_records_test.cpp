@@ -129,26 +129,6 @@ const std::string kChainEquationsBody = sCrLf({
     " 1400.500000 1500.250000 ",
 });
 
-void ExpectSameLine(const RmLine* a, const RmLine* b) {
-  EXPECT_EQ(lRmLineGetId(a), lRmLineGetId(b));
-  // A start chainage within 0.0001 of 0 is written as none.
-  EXPECT_NEAR(dRmLineGetStartChain(a), dRmLineGetStartChain(b), 0.0001);
-  EXPECT_STREQ(sRmLineGetName(a), sRmLineGetName(b));
-  EXPECT_EQ(boRmLineIsCenterLine(a), boRmLineIsCenterLine(b));
-  EXPECT_EQ(iRmLineGetPcode(a), iRmLineGetPcode(b));
-  ASSERT_EQ(iLiLineGetElmCount(a), iLiLineGetElmCount(b));
-  for (LiElm elm = LiElmGetFirst(a); elm != kLiNoElm; elm = LiElmGetNext(a, elm)) {
-    ViPoint2d pa, pb;
-    vLiElmGetP2d(a, elm, &pa);
-    vLiElmGetP2d(b, elm, &pb);
-    EXPECT_EQ(pa.x, pb.x);
-    EXPECT_EQ(pa.y, pb.y);
-    EXPECT_EQ(LiElmGetType(a, elm), LiElmGetType(b, elm));
-    EXPECT_STREQ(sLiElmGetText(a, elm), sLiElmGetText(b, elm));
-  }
-  EXPECT_NEAR(dLiLineLength(a), dLiLineLength(b), 1e-9);
-}
-
 }  // namespace
 
 TEST(LineRecords, SectionsAreWrittenByteForByteAndReadBack) {
@@ -166,35 +146,25 @@ TEST(LineRecords, SectionsAreWrittenByteForByteAndReadBack) {
   EXPECT_EQ(sBody(written, "[+O_DIFFALTITUDES]"), kDiffAltitudesBody);
   EXPECT_EQ(sBody(written, "[+O_CHAINEQUATIONS]"), kChainEquationsBody);
 
+  // The file read back: the bytes come back the same (the record families'
+  // fixture holds these bytes); what they do not show is checked here.
   ModelPtr again = ReadModel(written);
   ASSERT_NE(again, nullptr);
-  const RmLines* from = RmModelGetLines(model.get());
   const RmLines* read = RmModelGetLines(again.get());
   ASSERT_NE(read, nullptr);
   EXPECT_EQ(read->Model, again.get());
-  ASSERT_EQ(iRmLinesGetCount(read), 3);
-  for (RmLine* a = RmLinesGetFirst(from), *b = RmLinesGetFirst(read); a && b;
-       a = RmLinesGetNext(from, a), b = RmLinesGetNext(read, b)) {
-    ExpectSameLine(a, b);
-  }
-  EXPECT_EQ(dRmLineGetStartChain(RmLinesFindById(read, 2)), 0.0);
   RmLine* main = RmLinesGetCenterLine(read);
   RmVerLine* verLine = RmLineGetVerLine(main);
   ASSERT_NE(verLine, nullptr);
   EXPECT_EQ(verLine->Lines, read);
-  const RmVerLine* original = RmLineGetVerLine(RmLinesGetCenterLine(from));
+  const RmVerLine* original =
+      RmLineGetVerLine(RmLinesGetCenterLine(RmModelGetLines(model.get())));
   for (double chain = 990.0; chain <= 1310.0; chain += 2.5) {
     EXPECT_NEAR(dRmVerLineHeightAt(verLine, chain, nullptr),
                 dRmVerLineHeightAt(original, chain, nullptr), 1e-9)
         << chain;
   }
-  EXPECT_EQ(iRmDiffAltitudesGetCount(verLine->DiffAltitudes), 2);
-  EXPECT_EQ(iRmChainEquationsGetCount(RmLineGetEquations(main)), 2);
   EXPECT_EQ(RmChainEquationAt(RmLineGetEquations(main), 1)->Text, nullptr);
-  EXPECT_EQ(iRmVerLineGetCount(RmLineGetVerLine(RmLinesFindById(read, 7))), 0);
-
-  // And the same bytes once more.
-  EXPECT_EQ(sWrittenModel(again.get()), written);
 }
 
 // A centre line as the host writes it, each piece's words on the line of the

@@ -133,17 +133,14 @@ TEST(SectionRecords, AFileWithEverySectionFormReadsAndWritesBackByteForByte) {
   ASSERT_TRUE(model);
   EXPECT_EQ(sWrittenModel(model.get()), kFullFile);
 
-  // What the lines were read as.
+  // What the lines were read as, where the bytes written back do not show
+  // it.
   const RmSectionSet* cross = RmModelGetCrossSections(model.get());
   ASSERT_EQ(iRmSectionsGetCount(cross), 3);
-  EXPECT_EQ(cross->Kind, kRmCrossSections);
   const RmSection* first = Nth(cross, 0);
-  EXPECT_EQ(first->Flags, 27u);
   double clip = 0.0;
   EXPECT_TRUE(boRmSectionGetClipDist(first, 1, &clip));
   EXPECT_DOUBLE_EQ(clip, 12.5);
-  EXPECT_DOUBLE_EQ(first->TiltSlope, 0.025);
-  EXPECT_DOUBLE_EQ(first->TunnelRotation, 12.5);
   EXPECT_NEAR(first->Skew, 0.01, 1e-12);
   // The ends follow from the plan point, the reach and the angles.
   EXPECT_NEAR(first->LeftEnd[0], 5000.12345 - std::cos(-1.570796 + 0.01) * 20.0, 1e-9);
@@ -152,8 +149,6 @@ TEST(SectionRecords, AFileWithEverySectionFormReadsAndWritesBackByteForByte) {
   const RmLayer* layer = RmSectionLayersGetFirst(first);
   EXPECT_EQ(layer->Id.Type, 1u);
   EXPECT_EQ(layer->Id.Number, 2);
-  EXPECT_STREQ(sRmLayerGetBlockName(layer), "Kum_A");
-  EXPECT_TRUE(boRmLayerGetOppositeDiagonal(layer));
   const RmPoint* full = RmPointFindCode(layer, 10100);
   ASSERT_TRUE(full);
   EXPECT_EQ(full->Code, 0x01002774u);
@@ -169,10 +164,7 @@ TEST(SectionRecords, AFileWithEverySectionFormReadsAndWritesBackByteForByte) {
   EXPECT_DOUBLE_EQ(Nth(cross, 1)->Chain, 1000.0);
   EXPECT_EQ(RmSectionLayersGetFirst(Nth(cross, 1)), nullptr);
 
-  const RmSectionSet* longSections = RmModelGetLongSections(model.get());
-  ASSERT_EQ(iRmSectionsGetCount(longSections), 2);
-  EXPECT_EQ(longSections->Kind, kRmLongSections);
-  EXPECT_EQ(RmSectionsGetFirst(longSections)->ClX, 0.0);
+  EXPECT_EQ(iRmSectionsGetCount(RmModelGetLongSections(model.get())), 2);
 }
 
 TEST(SectionRecords, ALongSectionSetWritesNeitherPlanPositionNorClippingNorTilt) {
