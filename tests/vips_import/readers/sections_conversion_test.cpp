@@ -19,39 +19,17 @@
 
 namespace {
 
-// Cross sections with clipping, tilt, masses with outlines, a locked
-// section and layers of every point form; long sections beside them.
+// A locked cross section with a layer and a mass with its outline, and a
+// long section beside it.
 void vSaveModelWithSections(const std::string& path) {
   RmModel* model = RmModelCreate();
-  RmSectionSet* cross = RmModelGetOrCreateCrossSections(model);
-  for (double chain : {0.0, 20.0, 40.0}) {
-    RmSection* section = RmSectionAdd(cross, nullptr, chain);
-    section->ClX = 1000.0 + chain;
-    section->ClY = 2000.0;
-    section->Direction = -1.5707963267948966;
-    section->LeftDist = 20.0f;
-    section->RightDist = 22.5f;
-    vRmSectionSetClipDist(section, 1, true, 18.25);
-    RmMass* mass = RmMassAdd(section, 3);
-    mass->Area = 12.34567;
-    mass->CentroidOffset = -1.5;
-    RmLayer* layer = RmLayerAdd(section, RmLayerIdMake(1, 2));
-    vRmLayerSetBuildMethod(layer, 1);
-    vRmLayerSetBlockName(layer, "Kum");
-    RmPointAdd(layer, nullptr, -7.25, 101.5, -20105);
-    RmPointAdd(layer, nullptr, -3.0, 102.0, -10100)->Radius = 25.5f;
-    vRmPointSetMark(RmPointAdd(layer, nullptr, 0.0, 103.125, 0), 2);
-    RmPointAdd(layer, nullptr, 3.0, -99999.0, 10100);
-  }
-  RmSection* locked = RmSectionsGetLast(cross);
-  vRmSectionSetFlag(locked, kRmSectionLocked | kRmSectionTilted, true);
-  locked->TiltSlope = 0.02;
-  locked->TiltHeight = 101.0;
-  locked->TunnelRotation = 7.5;
+  RmSection* section = RmSectionAdd(RmModelGetOrCreateCrossSections(model), nullptr, 40.0);
+  vRmSectionSetFlag(section, kRmSectionLocked, true);
+  RmPointAdd(RmLayerAdd(section, RmLayerIdMake(1, 2)), nullptr, -3.0, 102.0, -10100);
   LiLine* outline = LiLineCreate(false);
   LiLineAddP2d(outline, -3, 0);
   LiLineAddP2d(outline, 4, 2);
-  RmMassFind(locked, 3)->ExactLine = outline;
+  RmMassAdd(section, 3)->ExactLine = outline;
   RmSectionSet* longSections = RmModelGetOrCreateLongSections(model);
   RmPointAdd(RmLayerAdd(RmSectionAdd(longSections, nullptr, 0.0), RmLayerIdMake(2, 1)), nullptr,
              250.5, 104.25, 0);
