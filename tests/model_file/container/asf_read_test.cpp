@@ -95,16 +95,6 @@ TEST(AsfRead, CurrentFormatWithEmptySectionsInFrontAndBehind) {
   EXPECT_EQ(AsfSectionAt(file, 5), nullptr);
 }
 
-TEST(AsfRead, MixedLineEndsReadAsTheSameLines) {
-  OwnedFile file(AsfFileOpen(FixturePath("mixed_line_ends.sfi").c_str()));
-  ASSERT_NE(file, nullptr);
-  EXPECT_STREQ(sAsfFileGetType(file), "txt");
-  AsfSection* mixed = AsfSectionFind(file, "MIXED", kAsfTypeOther);
-  ASSERT_NE(mixed, nullptr);
-  EXPECT_EQ(SectionLines(file, mixed),
-            (Lines{"first", "second", "third", "fourth", "fifth", "sixth"}));
-}
-
 TEST(AsfRead, OlderFormatMakesSectionsFromLayers) {
   OwnedFile file(AsfFileOpen(FixturePath("older_format.sfi").c_str()));
   ASSERT_NE(file, nullptr);
