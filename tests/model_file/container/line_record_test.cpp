@@ -40,24 +40,6 @@ void vTakeElementText(void* datum, LiLine*, int32_t element, const char* text,
   *end = *close ? close + 1 : close;
 }
 
-// A 2D line with an element of every kind and an extent that the points at
-// (-50, -40) and (61, 70) span. Each piece is set on its start point.
-LiLine* MakeEveryKindLine(LiLines* lines) {
-  LiLine* line = LiLinesCreate2dLine(lines, 7);
-  const double points[][2] = {{0, 0},    {10, 0},    {20, 0},  {30, 10}, {35, 10},
-                              {40, 10},  {-50, -40}, {60, 70}, {61, 70}, {2.5000006, -0.0000001}};
-  for (const auto& point : points) LiLineAddP(line, point[0], point[1], 0);
-  EXPECT_TRUE(boLiElmSet2pArc(line, 0, 10, true));
-  EXPECT_TRUE(boLiElmSet2pArc(line, 1, -12.5, false));
-  EXPECT_TRUE(boLiElmSet3pArc(line, 2, 22.928932, 7.071068));
-  EXPECT_TRUE(boLiElmSetType(line, 3, 3));
-  EXPECT_TRUE(boLiElmSetClotoide(line, 4, 0, 100, 30));
-  EXPECT_TRUE(boLiElmSetType(line, 5, kLiElmInvisible));
-  EXPECT_TRUE(boLiElmSetType(line, 6, kLiElmStraightAlt));
-  EXPECT_TRUE(boLiElmSetType(line, 7, 50));
-  return line;
-}
-
 const std::string kEveryKindFile =
     "[KVRFILE_ASCII]\r\n"
     "_VERSION 2\r\n"
@@ -120,8 +102,21 @@ std::vector<int> Types(const LiLine* line) {
 }  // namespace
 
 TEST(AsfLineRecord, EveryElementKindIsWrittenInItsForm) {
+  // A 2D line with an element of every kind and an extent that the points at
+  // (-50, -40) and (61, 70) span. Each piece is set on its start point.
   OwnedLines lines(LiLinesCreate(0, 0));
-  LiLine* line = MakeEveryKindLine(lines);
+  LiLine* line = LiLinesCreate2dLine(lines, 7);
+  const double points[][2] = {{0, 0},    {10, 0},    {20, 0},  {30, 10}, {35, 10},
+                              {40, 10},  {-50, -40}, {60, 70}, {61, 70}, {2.5000006, -0.0000001}};
+  for (const auto& point : points) LiLineAddP(line, point[0], point[1], 0);
+  EXPECT_TRUE(boLiElmSet2pArc(line, 0, 10, true));
+  EXPECT_TRUE(boLiElmSet2pArc(line, 1, -12.5, false));
+  EXPECT_TRUE(boLiElmSet3pArc(line, 2, 22.928932, 7.071068));
+  EXPECT_TRUE(boLiElmSetType(line, 3, 3));
+  EXPECT_TRUE(boLiElmSetClotoide(line, 4, 0, 100, 30));
+  EXPECT_TRUE(boLiElmSetType(line, 5, kLiElmInvisible));
+  EXPECT_TRUE(boLiElmSetType(line, 6, kLiElmStraightAlt));
+  EXPECT_TRUE(boLiElmSetType(line, 7, 50));
   ElementTexts texts{{{0, "first"}, {2, "middle arc"}, {6, std::string(200, 'x')}}};
   FieldValues fields{{"Main", "two\r\nlines"}};
   RecordWriter writer(kAsfTypeLine, {"NAME", "NOTE"});

@@ -12,19 +12,6 @@
 
 namespace {
 
-TrNet* MakeNet() {
-  TrNet* net = TrNetCreate();
-  vTrNetSetID(net, 31);
-  vTrNetSetGuid(net, "{N}");
-  vTrNetSetP(net, 0, 1000.5, 2000.25, 10);
-  vTrNetSetP(net, 1, 1010, 2000, 11.5);
-  vTrNetSetP(net, 2, 1005, 2010.12346, 12);
-  vTrNetSetTriangle(net, 0, 0, 1, 2);
-  vTrNetSetUsePointAttrib(net, kViPointAttribIntensity, true);
-  for (int i = 0; i < 3; ++i) boTrNetSetPointAttribInt(net, kViPointAttribIntensity, i, 5 + i);
-  return net;
-}
-
 // A cloud of `count` points along x, classified by their index.
 PtCloud* MakeCloud(long id, int count) {
   PtCloud* cloud = PtCloudCreate();
@@ -50,7 +37,15 @@ TrTriangle TriangleOf(const TrNet* net, int index) {
 }  // namespace
 
 TEST(AsfNetRecord, NetsAreWrittenAgainstTheirOffsetAndReadBack) {
-  OwnedNet net(MakeNet());
+  OwnedNet net(TrNetCreate());
+  vTrNetSetID(net, 31);
+  vTrNetSetGuid(net, "{N}");
+  vTrNetSetP(net, 0, 1000.5, 2000.25, 10);
+  vTrNetSetP(net, 1, 1010, 2000, 11.5);
+  vTrNetSetP(net, 2, 1005, 2010.12346, 12);
+  vTrNetSetTriangle(net, 0, 0, 1, 2);
+  vTrNetSetUsePointAttrib(net, kViPointAttribIntensity, true);
+  for (int i = 0; i < 3; ++i) boTrNetSetPointAttribInt(net, kViPointAttribIntensity, i, 5 + i);
   std::string bytes = WrittenRecords(kAsfTypeNet, boAsfNetWrite, {net});
   EXPECT_EQ(BodyOf(bytes),
             ":N 31\r\n_EXTENT 1000 2000 1010 2011 \r\nGUID {N}\r\n_#POINTS 3\r\n"
