@@ -90,8 +90,6 @@ struct Alignment {
   }
 };
 
-double AngleDifference(double a, double b) { return std::remainder(a - b, 2.0 * M_PI); }
-
 }  // namespace
 
 TEST(LineChainage, PointsAtChainAndOffsetAndBackOnStraightsArcsAndClothoids) {
@@ -111,7 +109,7 @@ TEST(LineChainage, PointsAtChainAndOffsetAndBackOnStraightsArcsAndClothoids) {
       ASSERT_TRUE(boRmLinePointAtChain(alignment.line, chain, &point, &tangent, offset));
       EXPECT_NEAR(point.x, expected.point.x + offset * std::sin(expected.direction), 1e-7);
       EXPECT_NEAR(point.y, expected.point.y - offset * std::cos(expected.direction), 1e-7);
-      EXPECT_NEAR(AngleDifference(tangent, expected.direction), 0.0, 1e-7);
+      EXPECT_NEAR(std::remainder(tangent - expected.direction, 2.0 * M_PI), 0.0, 1e-7);
 
       double back = 0.0, side = 1.0;
       ASSERT_TRUE(boRmLineChainAtPoint(alignment.line, point.x, point.y, -1.0, &back, &side));

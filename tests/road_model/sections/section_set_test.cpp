@@ -34,21 +34,17 @@ SetPtr MakeSet(std::initializer_list<double> chains) {
   return set;
 }
 
-std::vector<double> Chains(const RmSectionSet* set) {
-  std::vector<double> chains;
-  for (const RmSection* section = RmSectionsGetFirst(set); section; section = section->Next) {
-    chains.push_back(section->Chain);
-  }
-  return chains;
-}
-
 }  // namespace
 
 TEST(SectionSet, SectionsStandInTheOrderTheyWereAddedAndGoBackToThePool) {
   SetPtr set = MakeSet({0.0, 10.0, 10.0});
   RmSection* last = RmSectionsGetLast(set.get());
   RmSectionAdd(set.get(), last, 5.0);
-  EXPECT_EQ(Chains(set.get()), (std::vector<double>{0, 10, 5, 10}));
+  std::vector<double> chains;
+  for (RmSection* section = RmSectionsGetFirst(set.get()); section; section = section->Next) {
+    chains.push_back(section->Chain);
+  }
+  EXPECT_EQ(chains, (std::vector<double>{0, 10, 5, 10}));
   EXPECT_EQ(iRmSectionsGetIndex(set.get(), last), 3);
   EXPECT_EQ(iRmSectionsGetIndex(set.get(), nullptr), -1);
 
