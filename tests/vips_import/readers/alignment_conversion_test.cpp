@@ -56,19 +56,6 @@ constexpr Element kMainElements[] = {
 constexpr double kProfile[][3] = {
     {1000.0, 100.0, 0.0}, {1200.0, 104.0, 2000.0}, {1400.0, 101.0, 1500.0}, {1680.0, 103.8, 0.0}};
 
-void vAddMainAlignment(DesignModelBuilder& builder) {
-  AlignmentRecord& main = builder.AddAlignment(1, u"Fv. 4512 Hovedlinje");
-  main.guid = u"" GUID_1;
-  double x0 = kMainStartX, y0 = kMainStartY;
-  for (const Element& e : kMainElements) {
-    vAddElement(main, e.startChain, e.endChain, x0, y0, e.x1, e.y1, e.startRadius, e.endRadius,
-                e.a);
-    x0 = e.x1;
-    y0 = e.y1;
-  }
-  for (const auto& point : kProfile) vAddAnglePoint(main, point[0], point[1], point[2]);
-}
-
 // The design: the others come first and last in the list, and the
 // alignment of id 5 is read before the one of id 3.
 std::unique_ptr<DesignModelRecord> RoadDesign(bool withDifferences = true) {
@@ -87,7 +74,16 @@ std::unique_ptr<DesignModelRecord> RoadDesign(bool withDifferences = true) {
   vAddAnglePoint(footway, 0.0, 50.0);
   vAddAnglePoint(footway, 90.0, 51.8);
 
-  vAddMainAlignment(builder);
+  AlignmentRecord& main = builder.AddAlignment(1, u"Fv. 4512 Hovedlinje");
+  main.guid = u"" GUID_1;
+  double x0 = kMainStartX, y0 = kMainStartY;
+  for (const Element& e : kMainElements) {
+    vAddElement(main, e.startChain, e.endChain, x0, y0, e.x1, e.y1, e.startRadius, e.endRadius,
+                e.a);
+    x0 = e.x1;
+    y0 = e.y1;
+  }
+  for (const auto& point : kProfile) vAddAnglePoint(main, point[0], point[1], point[2]);
 
   // An edge without a profile.
   AlignmentRecord& edge = builder.AddAlignment(3, u"Kant");

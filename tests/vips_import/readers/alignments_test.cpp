@@ -71,16 +71,11 @@ TEST(ReadAlignments, AlignmentsOfOneIdAreMergedAndTheLastProfileWins) {
   EXPECT_EQ(iVipsReadAlignments(design->GetI(), nullptr, model.get(), 0, 1, 1), 2);
   ASSERT_EQ(iRmLinesGetCount(Lines(model)), 1);
   RmLine* line = RmLinesGetFirst(Lines(model));
-  // The line keeps the name it was made with; the second alignment's start
-  // point and start chainage go on behind the first one's points.
+  // The line keeps the name it was made with; the second alignment goes on
+  // behind the first (the order of the points is the line's own test).
   EXPECT_STREQ(sRmLineGetName(line), "guid-first");
   EXPECT_EQ(dRmLineGetStartChain(line), 200.0);
-  ASSERT_EQ(iLiLineGetElmCount(line), 4);
-  for (LiElm elm = 0; elm < 4; ++elm) {
-    ViPoint2d point;
-    vLiElmGetP2d(line, elm, &point);
-    EXPECT_EQ(point.x, 10.0 * elm);
-  }
+  EXPECT_EQ(iLiLineGetElmCount(line), 4);
   const RmVerLine* verLine = RmLineGetVerLine(line);
   ASSERT_EQ(iRmVerLineGetCount(verLine), 3);
   EXPECT_EQ(RmVerLineGetFirst(verLine)->Height, 7.0);

@@ -14,35 +14,31 @@
 #include "road_model/params/sect_params.h"
 #include "road_model/sections/section_masses.h"
 #include "road_model/sections/section_set.h"
+#include "tests/support/model_ptr.h"
 #include "tests/vips_import/conversion_fixtures.h"
 #include "vips_import/driver/section_finishing.h"
 
 namespace {
 
-// A locked cross section with a layer and a mass with its outline, and a
-// long section beside it.
-void vSaveModelWithSections(const std::string& path) {
-  RmModel* model = RmModelCreate();
-  RmSection* section = RmSectionAdd(RmModelGetOrCreateCrossSections(model), nullptr, 40.0);
-  vRmSectionSetFlag(section, kRmSectionLocked, true);
-  RmPointAdd(RmLayerAdd(section, RmLayerIdMake(1, 2)), nullptr, -3.0, 102.0, -10100);
-  LiLine* outline = LiLineCreate(false);
-  LiLineAddP2d(outline, -3, 0);
-  LiLineAddP2d(outline, 4, 2);
-  RmMassAdd(section, 3)->ExactLine = outline;
-  RmSectionSet* longSections = RmModelGetOrCreateLongSections(model);
-  RmPointAdd(RmLayerAdd(RmSectionAdd(longSections, nullptr, 0.0), RmLayerIdMake(2, 1)), nullptr,
-             250.5, 104.25, 0);
-  ASSERT_TRUE(boRmModelSave(model, path.c_str()));
-  vRmModelDelete(model);
-}
-
-// The model file with sections saved in `folder`, converted with `flags`:
-// its bytes before and after.
+// The bytes of a model file in `folder` before and after a conversion with
+// `flags`: a locked cross section with a layer and a mass with its outline,
+// and a long section beside it.
 std::pair<std::string, std::string> SectionsBeforeAndAfter(const ScratchFolder& folder,
                                                            uint32_t flags) {
   std::string modelFile = folder / "veg.sfi";
-  vSaveModelWithSections(modelFile);
+  ModelPtr model(RmModelCreate());
+  RmSection* section =
+      RmSectionAdd(RmModelGetOrCreateCrossSections(model.get()), nullptr, 40.0);
+  vRmSectionSetFlag(section, kRmSectionLocked, true);
+  RmPointAdd(RmLayerAdd(section, RmLayerIdMake(1, 2)), nullptr, -3.0, 102.0, -10100);
+  RmMass* mass = RmMassAdd(section, 3);
+  mass->ExactLine = LiLineCreate(false);
+  LiLineAddP2d(mass->ExactLine, -3, 0);
+  LiLineAddP2d(mass->ExactLine, 4, 2);
+  RmSectionSet* longSections = RmModelGetOrCreateLongSections(model.get());
+  RmPointAdd(RmLayerAdd(RmSectionAdd(longSections, nullptr, 0.0), RmLayerIdMake(2, 1)), nullptr,
+             250.5, 104.25, 0);
+  EXPECT_TRUE(boRmModelSave(model.get(), modelFile.c_str()));
   std::string before = sReadWholeFile(modelFile);
   vWriteWholeFile(folder / "veg.json", sDesignDocument(sInputOf("10.0", 1)));
   char* logFile = nullptr;
