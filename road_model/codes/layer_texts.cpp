@@ -5,7 +5,7 @@
 #include "base/temp_text.h"
 #include "base/text.h"
 #include "parameters/factory_settings.h"
-#include "road_model/codes/layer_names.h"
+#include "road_model/names/layer_names.h"
 
 namespace {
 

@@ -7,6 +7,9 @@
 #include "road_model/model/hyperlinks.h"
 #include "road_model/model/model.h"
 #include "road_model/model/model_lines.h"
+#include "road_model/names/annotation_types.h"
+#include "road_model/names/layer_names.h"
+#include "road_model/names/mass_types.h"
 #include "road_model/params/road_dim_params.h"
 #include "road_model/params/sect_params.h"
 #include "road_model/params/sect_triangulation_params.h"
@@ -106,6 +109,25 @@ using CrossSectionsSlot = Slot<&RmModel::CrossSections, &RmModel::CrossSectionsP
                                RmSectionSetCreate, vRmSectionSetDelete, vCopyWholeSectionSet>;
 using LongSectionsSlot = Slot<&RmModel::LongSections, &RmModel::LongSectionsPending,
                               RmSectionSetCreate, vRmSectionSetDelete, vCopyWholeSectionSet>;
+// The vocabulary lists are made with the kind of their slot.
+RmMassTypes* CrossMassTypesCreate() { return RmMassTypesCreate(kRmMassTypesCross); }
+RmMassTypes* LongMassTypesCreate() { return RmMassTypesCreate(kRmMassTypesLong); }
+RmAnnotationTypes* CrossAnnotationTypesCreate() {
+  return RmAnnotationTypesCreate(kRmMassTypesCross);
+}
+RmAnnotationTypes* LongAnnotationTypesCreate() { return RmAnnotationTypesCreate(kRmMassTypesLong); }
+using LayerNamesSlot = Slot<&RmModel::LayerNames, &RmModel::LayerNamesPending,
+                            RmLayerNamesCreate, vRmLayerNamesDelete, vRmLayerNamesCopy>;
+using CSectMassTypesSlot = Slot<&RmModel::CSectMassTypes, &RmModel::CSectMassTypesPending,
+                                CrossMassTypesCreate, vRmMassTypesDelete, vRmMassTypesCopy>;
+using LSectMassTypesSlot = Slot<&RmModel::LSectMassTypes, &RmModel::LSectMassTypesPending,
+                                LongMassTypesCreate, vRmMassTypesDelete, vRmMassTypesCopy>;
+using CSectAnnotationTypesSlot =
+    Slot<&RmModel::CSectAnnotationTypes, &RmModel::CSectAnnotationTypesPending,
+         CrossAnnotationTypesCreate, vRmAnnotationTypesDelete, vRmAnnotationTypesCopy>;
+using LSectAnnotationTypesSlot =
+    Slot<&RmModel::LSectAnnotationTypes, &RmModel::LSectAnnotationTypesPending,
+         LongAnnotationTypesCreate, vRmAnnotationTypesDelete, vRmAnnotationTypesCopy>;
 using RoadDimParamsSlot = Slot<&RmModel::RoadDimParams, &RmModel::RoadDimParamsPending,
                                RmRoadDimParamsCreate, vRmRoadDimParamsDelete,
                                vRmRoadDimParamsCopy>;
@@ -121,6 +143,11 @@ using RoadDimParamsSlot = Slot<&RmModel::RoadDimParams, &RmModel::RoadDimParamsP
 constexpr RmModelPart kParts[] = {
     AdmDataSlot::Row(),
     HyperlinksSlot::Row(),
+    LayerNamesSlot::Row(),
+    CSectMassTypesSlot::Row(),
+    LSectMassTypesSlot::Row(),
+    CSectAnnotationTypesSlot::Row(kCommitsAfterSettings),
+    LSectAnnotationTypesSlot::Row(kCommitsAfterSettings),
     // Plan lines point back at the model that holds them, so their slot has
     // operations of its own (road_model/model_lines.h).
     RmModelPart{nullptr, vRmModelReleaseLines, vRmModelDiscardLines, vRmModelCommitLines,
@@ -305,4 +332,63 @@ void vRmModelCommitLongSections(RmModel* model) {
 
 void vRmModelDiscardLongSections(RmModel* model) {
   if (model) LongSectionsSlot::DiscardPending(model);
+}
+
+// ---- The vocabulary ----
+
+namespace {
+
+template <typename List>
+void vStampListKind(List* list, int32_t kind) {
+  if (list) list->Kind = kind;
+}
+// Layer names have no kind.
+void vStampListKind(RmLayerNames*, int32_t) {}
+
+}  // namespace
+
+// The operations of a slot that are the same for every slot of the
+// vocabulary; Set and Prepare stamp `kind` into a list that has a kind.
+#define KVRVIPS_VOCABULARY_SLOT(Name, Type, SlotType, kind)                        \
+  Type* RmModelGet##Name(const RmModel* model) {                                  \
+    return model ? model->Name : nullptr;                                         \
+  }                                                                               \
+  void vRmModelSet##Name(RmModel* model, Type* object) {                          \
+    if (!model) return;                                                           \
+    vStampListKind(object, kind);                                                 \
+    SlotType::Replace(&model->Name, object);                                      \
+  }                                                                               \
+  Type* RmModelGet##Name##Pending(const RmModel* model) {                         \
+    return model ? model->Name##Pending : nullptr;                                \
+  }                                                                               \
+  Type* RmModelGet##Name##Effective(const RmModel* model) {                       \
+    if (!model) return nullptr;                                                   \
+    return model->Name##Pending ? model->Name##Pending : model->Name;             \
+  }                                                                               \
+  Type* RmModelPrepare##Name(RmModel* model) {                                    \
+    if (!model) return nullptr;                                                   \
+    Type* pending = SlotType::Prepare(model);                                     \
+    vStampListKind(pending, kind);                                                \
+    return pending;                                                               \
+  }                                                                               \
+  void vRmModelCommit##Name(RmModel* model) {                                     \
+    if (model) SlotType::Commit(model);                                           \
+  }                                                                               \
+  void vRmModelDiscard##Name(RmModel* model) {                                    \
+    if (model) SlotType::DiscardPending(model);                                   \
+  }
+
+KVRVIPS_VOCABULARY_SLOT(LayerNames, RmLayerNames, LayerNamesSlot, -1)
+KVRVIPS_VOCABULARY_SLOT(CSectMassTypes, RmMassTypes, CSectMassTypesSlot, kRmMassTypesCross)
+KVRVIPS_VOCABULARY_SLOT(LSectMassTypes, RmMassTypes, LSectMassTypesSlot, kRmMassTypesLong)
+KVRVIPS_VOCABULARY_SLOT(CSectAnnotationTypes, RmAnnotationTypes, CSectAnnotationTypesSlot,
+                        kRmMassTypesCross)
+KVRVIPS_VOCABULARY_SLOT(LSectAnnotationTypes, RmAnnotationTypes, LSectAnnotationTypesSlot,
+                        kRmMassTypesLong)
+
+#undef KVRVIPS_VOCABULARY_SLOT
+
+RmLayerNames* RmModelGetOrCreateLayerNames(RmModel* model) {
+  if (model && !model->LayerNames) vRmModelSetLayerNames(model, RmLayerNamesCreate());
+  return RmModelGetLayerNames(model);
 }

@@ -7,7 +7,10 @@
 #include <span>
 
 struct RmAdmData;
+struct RmAnnotationTypes;
 struct RmHyperlinks;
+struct RmLayerNames;
+struct RmMassTypes;
 struct RmModel;
 struct RmRoadDimParams;
 struct RmSectParams;
@@ -91,3 +94,49 @@ RmSectionSet* RmModelGetLongSectionsEffective(const RmModel* model);
 RmSectionSet* RmModelPrepareLongSections(RmModel* model);
 void vRmModelCommitLongSections(RmModel* model);
 void vRmModelDiscardLongSections(RmModel* model);
+
+// The vocabulary: layer names (LAYERNAMES), the mass types and the
+// annotation types of cross sections (kind 0) and long sections (kind 1).
+// The setters and Prepare stamp the slot's kind into the list.
+
+RmLayerNames* RmModelGetLayerNames(const RmModel* model);
+void vRmModelSetLayerNames(RmModel* model, RmLayerNames* names);
+// The committed list, made empty first when the model has none.
+RmLayerNames* RmModelGetOrCreateLayerNames(RmModel* model);
+RmLayerNames* RmModelGetLayerNamesPending(const RmModel* model);
+RmLayerNames* RmModelGetLayerNamesEffective(const RmModel* model);
+RmLayerNames* RmModelPrepareLayerNames(RmModel* model);
+void vRmModelCommitLayerNames(RmModel* model);
+void vRmModelDiscardLayerNames(RmModel* model);
+
+RmMassTypes* RmModelGetCSectMassTypes(const RmModel* model);
+void vRmModelSetCSectMassTypes(RmModel* model, RmMassTypes* types);
+RmMassTypes* RmModelGetCSectMassTypesPending(const RmModel* model);
+RmMassTypes* RmModelGetCSectMassTypesEffective(const RmModel* model);
+RmMassTypes* RmModelPrepareCSectMassTypes(RmModel* model);
+void vRmModelCommitCSectMassTypes(RmModel* model);
+void vRmModelDiscardCSectMassTypes(RmModel* model);
+
+RmMassTypes* RmModelGetLSectMassTypes(const RmModel* model);
+void vRmModelSetLSectMassTypes(RmModel* model, RmMassTypes* types);
+RmMassTypes* RmModelGetLSectMassTypesPending(const RmModel* model);
+RmMassTypes* RmModelGetLSectMassTypesEffective(const RmModel* model);
+RmMassTypes* RmModelPrepareLSectMassTypes(RmModel* model);
+void vRmModelCommitLSectMassTypes(RmModel* model);
+void vRmModelDiscardLSectMassTypes(RmModel* model);
+
+RmAnnotationTypes* RmModelGetCSectAnnotationTypes(const RmModel* model);
+void vRmModelSetCSectAnnotationTypes(RmModel* model, RmAnnotationTypes* types);
+RmAnnotationTypes* RmModelGetCSectAnnotationTypesPending(const RmModel* model);
+RmAnnotationTypes* RmModelGetCSectAnnotationTypesEffective(const RmModel* model);
+RmAnnotationTypes* RmModelPrepareCSectAnnotationTypes(RmModel* model);
+void vRmModelCommitCSectAnnotationTypes(RmModel* model);
+void vRmModelDiscardCSectAnnotationTypes(RmModel* model);
+
+RmAnnotationTypes* RmModelGetLSectAnnotationTypes(const RmModel* model);
+void vRmModelSetLSectAnnotationTypes(RmModel* model, RmAnnotationTypes* types);
+RmAnnotationTypes* RmModelGetLSectAnnotationTypesPending(const RmModel* model);
+RmAnnotationTypes* RmModelGetLSectAnnotationTypesEffective(const RmModel* model);
+RmAnnotationTypes* RmModelPrepareLSectAnnotationTypes(RmModel* model);
+void vRmModelCommitLSectAnnotationTypes(RmModel* model);
+void vRmModelDiscardLSectAnnotationTypes(RmModel* model);

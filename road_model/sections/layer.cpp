@@ -4,6 +4,7 @@
 
 #include "base/text.h"
 #include "road_model/codes/pcode.h"
+#include "road_model/names/layer_names.h"
 #include "road_model/sections/section.h"
 
 namespace {
@@ -106,6 +107,12 @@ RmLayer* RmLayerAdd(RmSection* section, RmLayerId id) {
   RmLayer* before = RmSectionLayersGetFirst(section);
   while (before && iCompareLayerIds(before->Id, id) <= 0) before = before->Next;
   return RmLayerAddAt(section, before, id);
+}
+
+RmLayer* RmLayerAddNamed(RmSection* section, RmLayerId id, RmLayerNames* layerNames) {
+  RmLayer* layer = RmLayerAdd(section, id);
+  if (layer) vRmLayerNameEnsure(layerNames, id);
+  return layer;
 }
 
 void vRmLayerRemove(RmSection* section, RmLayer* layer) {

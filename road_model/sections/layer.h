@@ -17,6 +17,7 @@
 #include "road_model/codes/layer_id.h"
 #include "road_model/codes/point_code.h"
 
+struct RmLayerNames;
 struct RmSection;
 
 // How the section builder makes a layer; absent until a field is set.
@@ -59,6 +60,9 @@ RmLayer* RmLayerAddAt(RmSection* section, RmLayer* before, RmLayerId id);
 // larger type, or of the same type and a larger number. A duplicate goes
 // behind the existing one.
 RmLayer* RmLayerAdd(RmSection* section, RmLayerId id);
+// RmLayerAdd, and the layer names get a record of `id` when they have none,
+// named by the factory settings' default name of the id.
+RmLayer* RmLayerAddNamed(RmSection* section, RmLayerId id, RmLayerNames* layerNames);
 // Clears the layer's points, frees its build info and removes it.
 void vRmLayerRemove(RmSection* section, RmLayer* layer);
 // Removes the theoretical layers (type 1) below number 100.

@@ -1,6 +1,6 @@
 #include "road_model/sections/layer_relations.h"
 
-#include "road_model/codes/layer_names.h"
+#include "road_model/names/layer_names.h"
 #include "road_model/model/model.h"
 
 namespace {

@@ -6,6 +6,7 @@
 #include "road_model/model/model.h"
 #include "road_model/model/model_lines.h"
 #include "road_model/model/model_parts.h"
+#include "road_model/names/annotation_types.h"
 #include "road_model/sections/section_placing.h"
 #include "road_model/sections/section_set.h"
 
@@ -58,6 +59,12 @@ void vPlaceUnplacedSections(RmModel* model) {
   }
 }
 
+// Line annotations of such files named their line by the type's name.
+void vNameAnnotatedLines(RmModel* model) {
+  vRmAnnotationTypesNameLines(RmModelGetCSectAnnotationTypes(model));
+  vRmAnnotationTypesNameLines(RmModelGetLSectAnnotationTypes(model));
+}
+
 constexpr Migration kMigrations[] = {
     // Version 0 alone (a file without the key): a negative version is no
     // version 0. Needs every table that holds PCODEs: the section sets.
@@ -67,6 +74,8 @@ constexpr Migration kMigrations[] = {
     // Needs the plan lines (the centre line), SECTPARAMS and the cross
     // sections.
     {INT_MIN, 3, vPlaceUnplacedSections},
+    // Needs both lists of annotation types.
+    {INT_MIN, 12, vNameAnnotatedLines},
 };
 
 }  // namespace

@@ -5,8 +5,9 @@
 // The frame lists the descriptors in the order of the file
 // (record_families.cpp); nothing else names a section of the file.
 //
-// A family that holds one of the two section sets names it, so that one
-// writer and one reader serve cross and long sections alike.
+// A family that holds one of the two section sets, or a list that belongs to
+// one kind of sections (mass types, annotation types), names that kind, so
+// that one writer and one reader serve cross and long sections alike.
 #pragma once
 
 struct AsfFile;
@@ -21,7 +22,8 @@ struct RmRecordFamily {
   const char* Keyword;
   // The container letter of the section: 'O' for text lines, 'L' for lines.
   char Letter;
-  // kRmCrossSections or kRmLongSections for a family of a section set.
+  // kRmCrossSections or kRmLongSections for a family of a section set or of
+  // a list of one kind of sections.
   int SectionSet = kRmNoSectionSet;
   // Whether the model has something for the section; null: always written.
   bool (*HasContent)(const RmModel* model, const RmRecordFamily& family) = nullptr;

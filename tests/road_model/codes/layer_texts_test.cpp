@@ -3,11 +3,9 @@
 #include <string>
 
 #include "base/session.h"
-#include "base/slink.h"
-#include "base/text.h"
 #include "parameters/factory_settings.h"
 #include "road_model/codes/code_lists.h"
-#include "road_model/codes/layer_names.h"
+#include "road_model/names/layer_names.h"
 #include "road_model/sections/layer_relations.h"
 #include "road_model/codes/layer_texts.h"
 #include "road_model/model/model.h"
@@ -17,23 +15,14 @@
 
 namespace {
 
-// Layer names of the model, made by hand for the lookups.
-class LayerNamesFixture {
- public:
-  LayerNamesFixture() { SLinkInit(&names.Names, sizeof(RmLayerName), nullptr); }
-  ~LayerNamesFixture() {
-    for (auto* name = ListFirst<RmLayerName>(&names.Names); name; name = name->Next) {
-      vHeapFree(&name->Name);
-    }
-    vSLinkClear(&names.Names);
-  }
+// Layer names of the model for the lookups.
+struct LayerNamesFixture {
+  LayerNamesFixture() : names(RmLayerNamesCreate()) {}
+  ~LayerNamesFixture() { vRmLayerNamesDelete(&names); }
   RmLayerName* Add(uint32_t type, int number, const char* text) {
-    auto* name = SLinkNewObjAs<RmLayerName>(&names.Names);
-    name->Id = RmLayerIdMake(type, number);
-    sHeapSet(&name->Name, text);
-    return name;
+    return RmLayerNameSet(names, RmLayerIdMake(type, number), text);
   }
-  RmLayerNames names;
+  RmLayerNames* names;
 };
 
 class LayerTexts : public ::testing::Test {
@@ -79,10 +68,10 @@ TEST_F(LayerTexts, ALayerTextNamesTheTypeAndTheDefaultNameAndReadsBackToItsPair)
   LayerNamesFixture names;
   names.Add(1, 6, "Eget planum");
   names.Add(1, 9, nullptr);
-  EXPECT_STREQ(sLayerText(&names.names, 1, 6), "Teo   6: Eget planum");
-  EXPECT_STREQ(sLayerText(&names.names, 3, 6), "TeoA   6: Planum");
-  EXPECT_STREQ(sRmLayerNameGetName(&names.names, RmLayerIdMake(1, 9)), "");
-  EXPECT_EQ(sRmLayerNameGetName(&names.names, RmLayerIdMake(1, 10)), nullptr);
+  EXPECT_STREQ(sLayerText(names.names, 1, 6), "Teo   6: Eget planum");
+  EXPECT_STREQ(sLayerText(names.names, 3, 6), "TeoA   6: Planum");
+  EXPECT_STREQ(sRmLayerNameGetName(names.names, RmLayerIdMake(1, 9)), "");
+  EXPECT_EQ(sRmLayerNameGetName(names.names, RmLayerIdMake(1, 10)), nullptr);
 }
 
 TEST_F(LayerTexts, AShortTextDropsWhatFollowsTheFirstPoint) {
@@ -95,10 +84,10 @@ TEST_F(LayerTexts, AShortTextDropsWhatFollowsTheFirstPoint) {
   LayerNamesFixture names;
   names.Add(3, 1, "A. b");
   names.Add(2, 1, "Ende.");
-  EXPECT_STREQ(sLayerShortText(&names.names, 3, 1), "TeoA   1: A. b");
-  EXPECT_STREQ(sLayerShortText(&names.names, 2, 1), "Fys   1: Ende.");
+  EXPECT_STREQ(sLayerShortText(names.names, 3, 1), "TeoA   1: A. b");
+  EXPECT_STREQ(sLayerShortText(names.names, 2, 1), "Fys   1: Ende.");
   names.Add(2, 2, "Stopp.her");
-  EXPECT_STREQ(sLayerShortText(&names.names, 2, 2), "Fys   2: Stopp.");
+  EXPECT_STREQ(sLayerShortText(names.names, 2, 2), "Fys   2: Stopp.");
 }
 
 TEST_F(LayerTexts, ATextReadsBackOnlyWithAKnownWordANumberAndAColon) {
@@ -133,11 +122,11 @@ TEST(LayerRelations, DerivedPhysicalLayersStandForTheirGroups) {
   LayerNamesFixture names;
   names.Add(2, 40, "Grunnvann")->Category = 1;
   names.Add(2, 3, "Utelatt")->Priority = -1;
-  EXPECT_TRUE(boRmLayerDerivedFrom(rockAndSoil, RmLayerIdMake(2, 40), &names.names));
-  EXPECT_FALSE(boRmLayerDerivedFrom(RmLayerIdMake(2, 81), RmLayerIdMake(2, 40), &names.names));
-  EXPECT_TRUE(boRmLayerDerivedFrom(RmLayerIdMake(2, 97), RmLayerIdMake(2, 40), &names.names));
-  EXPECT_FALSE(boRmLayerDerivedFrom(rockAndSoil, RmLayerIdMake(2, 3), &names.names));
-  EXPECT_FALSE(boRmLayerDerivedFrom(RmLayerIdMake(2, 99), RmLayerIdMake(2, 3), &names.names));
+  EXPECT_TRUE(boRmLayerDerivedFrom(rockAndSoil, RmLayerIdMake(2, 40), names.names));
+  EXPECT_FALSE(boRmLayerDerivedFrom(RmLayerIdMake(2, 81), RmLayerIdMake(2, 40), names.names));
+  EXPECT_TRUE(boRmLayerDerivedFrom(RmLayerIdMake(2, 97), RmLayerIdMake(2, 40), names.names));
+  EXPECT_FALSE(boRmLayerDerivedFrom(rockAndSoil, RmLayerIdMake(2, 3), names.names));
+  EXPECT_FALSE(boRmLayerDerivedFrom(RmLayerIdMake(2, 99), RmLayerIdMake(2, 3), names.names));
 }
 
 TEST(LayerRelations, CalculationIdsTakeTheModelsTypes) {

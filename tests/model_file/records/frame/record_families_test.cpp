@@ -4,6 +4,7 @@
 // from a model that was read from it.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <set>
 #include <string>
 
@@ -13,7 +14,8 @@
 
 namespace {
 
-const char* const kFixtures[] = {"head_sections.sfi", "plan_lines.sfi", "section_forms.sfi"};
+const char* const kFixtures[] = {"head_sections.sfi", "plan_lines.sfi", "section_forms.sfi",
+                                 "vocabulary.sfi"};
 
 // The head line of a family's body in a file: "[+L_]", "[+O_MASSCALC]".
 std::string sBodyHead(const RmRecordFamily& family) {
@@ -42,5 +44,14 @@ TEST(RecordFamilies, EveryFamilyReadsBackWhatItWrote) {
   }
   for (const RmRecordFamily* family : RmRecordFamiliesInWriteOrder()) {
     EXPECT_TRUE(held.count(family)) << "no fixture holds " << family->Keyword;
+  }
+}
+
+TEST(RecordFamilies, EachSectionIsReadExactlyOnce) {
+  auto written = RmRecordFamiliesInWriteOrder();
+  auto read = RmRecordFamiliesInReadOrder();
+  ASSERT_EQ(written.size(), read.size());
+  for (const RmRecordFamily* family : written) {
+    EXPECT_EQ(std::count(read.begin(), read.end(), family), 1) << family->Keyword;
   }
 }
