@@ -40,7 +40,7 @@ TEST(HeadSections, ANewModelWritesSectionParametersAndMassCalculation) {
                                             sCrLf(kDefaultMassCalcLines) + "[END]\r\n");
 }
 
-TEST(HeadSections, AFilledModelWritesEveryHeadSectionInOrderAndReadsBack) {
+TEST(HeadSections, AFilledModelWritesEveryHeadSectionInOrder) {
   ModelPtr model = NewModel();
   vRmModelSetMarket(model.get(), "Swe");
   vRmModelSetGuid(model.get(), "{0F1E2D3C-4B5A-6978-8796-A5B4C3D2E1F0}");
@@ -92,14 +92,9 @@ TEST(HeadSections, AFilledModelWritesEveryHeadSectionInOrderAndReadsBack) {
              "TUNNELMODE 0", "CALCSTANDARD 3", "CALCTHEO 1", "CALCPHYS 2", "ROADTYPE 0",
              "WORKAREA 1", "WORKAREASTART 250.000", "WORKAREAEND 780.500",
              "SUPERSTRUCTUREMODE 0", "[END]"});
-  std::string written = sWrittenModel(model.get());
-  EXPECT_EQ(written, expected);
-
-  // What the model holds comes back: written again, it gives the same bytes.
-  ModelPtr again = ReadModel(written);
-  ASSERT_NE(again, nullptr);
-  EXPECT_EQ(again->DataVersion, 13);
-  EXPECT_EQ(sWrittenModel(again.get()), expected);
+  // That bytes like these read back and write again the same is the record
+  // families' fixture test.
+  EXPECT_EQ(sWrittenModel(model.get()), expected);
 }
 
 TEST(HeadSections, AdministrativeTextsKeepTheirLineBreaksAndQuotes) {
