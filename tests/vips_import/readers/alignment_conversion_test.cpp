@@ -58,7 +58,7 @@ constexpr double kProfile[][3] = {
 
 // The design: the others come first and last in the list, and the
 // alignment of id 5 is read before the one of id 3.
-std::unique_ptr<DesignModelRecord> RoadDesign(bool withDifferences = true) {
+std::unique_ptr<DesignModelRecord> RoadDesign() {
   DesignModelBuilder builder;
   NpDesignModel::InDataRecord& input = builder.Input();
   input.modelVersionNumber = 10.0;
@@ -90,11 +90,9 @@ std::unique_ptr<DesignModelRecord> RoadDesign(bool withDifferences = true) {
   edge.guid = u"" GUID_3;
   vAddElement(edge, 1000.0, 1100.0, 1000.25, 1990.25, 1100.25, 1990.25);
 
-  if (withDifferences) {
-    vAddElevationDifference(input, 1300.0, 1350.0, 0.25);
-    vAddElevationDifference(input, 1050.0, 1100.0, -0.5);
-    vAddElevationDifference(input, 1300.0, 1320.0, 0.1);
-  }
+  vAddElevationDifference(input, 1300.0, 1350.0, 0.25);
+  vAddElevationDifference(input, 1050.0, 1100.0, -0.5);
+  vAddElevationDifference(input, 1300.0, 1320.0, 0.1);
   return builder.Build();
 }
 
@@ -254,29 +252,24 @@ TEST(AlignmentConversion, EachFlagReadsItsOwnPartOfTheAlignments) {
       {":L 1", "_EXTENT " + noExtent + " ", "_FIELDVALUES ;" GUID_1 ";", "GUID ", "/XY"});
   const struct {
     uint32_t flags;
-    bool differences;  // whether the design has elevation differences
     std::string log, extent, fields, lines, profiles, differenceRows;
   } cases[] = {
       // The main alignment alone, plan and profile, with its differences.
-      {KVRVIPS_IMPORT_HORIZONTAL | KVRVIPS_IMPORT_VERTICAL, true,
+      {KVRVIPS_IMPORT_HORIZONTAL | KVRVIPS_IMPORT_VERTICAL,
        kLogMain + kLogProfile + kLogDifferences, "932 2000 1213 2201", "CHAIN;NAME;CL;",
        kMainLine, kMainProfile, kDifferences},
-      // Without elevation differences the log gets a blank line.
-      {KVRVIPS_IMPORT_HORIZONTAL | KVRVIPS_IMPORT_VERTICAL, false,
-       kLogMain + kLogProfile + kLogDifferences + "\n", "932 2000 1213 2201", "CHAIN;NAME;CL;",
-       kMainLine, kMainProfile, "<none>"},
       // The others alone: no main line, so nothing marked as one.
-      {KVRVIPS_IMPORT_EXTRA_ALIGNMENTS, true, kLogExtra, "1000 1990 2066 3057",
+      {KVRVIPS_IMPORT_EXTRA_ALIGNMENTS, kLogExtra, "1000 1990 2066 3057",
        "CHAIN;NAME;CL;", kEdgeLine + kFootwayLine, kFootwayProfile, "<none>"},
       // The main profile alone: its line has no plan and is no centre line,
       // so the differences have no line to go to.
-      {KVRVIPS_IMPORT_VERTICAL, true, kLogProfile + kLogDifferences, noExtent, "CHAIN;NAME;",
+      {KVRVIPS_IMPORT_VERTICAL, kLogProfile + kLogDifferences, noExtent, "CHAIN;NAME;",
        bareMainLine, kMainProfile, "<none>"},
   };
   for (const auto& test : cases) {
     SCOPED_TRACE(test.log);
     ScratchFolder folder;
-    Converted converted = Convert(folder, *RoadDesign(test.differences), test.flags);
+    Converted converted = Convert(folder, *RoadDesign(), test.flags);
     ASSERT_EQ(converted.result, 0);
     EXPECT_EQ(converted.log, kLogHead + test.log);
     EXPECT_NE(converted.file.find(sLineSectionHead(test.extent, test.fields)), std::string::npos);
