@@ -1,5 +1,6 @@
 #include "road_model/names/layer_list.h"
 
+#include <cfloat>
 #include <cmath>
 #include <cstring>
 
@@ -26,6 +27,13 @@ bool boBefore(const RmLayerListEntry* a, const RmLayerListEntry* b) {
 }
 
 }  // namespace
+
+float fRmLayerListValue(double value) {
+  if (std::isnan(value)) return 0.0f;
+  if (value > FLT_MAX) return FLT_MAX;
+  if (value < -FLT_MAX) return -FLT_MAX;
+  return static_cast<float>(value);
+}
 
 void vRmLayerListInit(RmLayerList* list, int32_t mode, int32_t join) {
   SLinkInit(&list->Entries, sizeof(RmLayerListEntry), nullptr);

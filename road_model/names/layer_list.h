@@ -28,6 +28,10 @@ struct RmLayerList {
 // The flag that puts an entry behind all entries without it.
 inline constexpr uint32_t kRmLayerListEntryLast = 1u << 4;
 
+// A value of an entry from a real: values beyond the range of a float
+// stand at its ends.
+float fRmLayerListValue(double value);
+
 // An empty list of heap entries with its mode and join.
 void vRmLayerListInit(RmLayerList* list, int32_t mode, int32_t join);
 // Frees the entries and their texts; mode and join stay.

@@ -232,7 +232,7 @@ void vRmMassTypesRewriteOldRules(RmMassTypes* types) {
     for (const RmLayerListEntry* from = RmLayerListGetFirst(&type->FromLayers); from;
          from = from->Next) {
       RmLayerListEntry* copy = RmLayerListAddCopy(&type->ToLayers, from);
-      if (copy) copy->Value = static_cast<float>(thickness);
+      if (copy) copy->Value = fRmLayerListValue(thickness);
     }
   }
 }

@@ -71,7 +71,7 @@ bool boReadFloat(Field field, float* value) {
   char* end = nullptr;
   double number = std::strtod(text, &end);
   if (end == text || !std::isfinite(number)) return false;
-  *value = static_cast<float>(number);
+  *value = fRmLayerListValue(number);
   return true;
 }
 
