@@ -1,6 +1,6 @@
 // The section families: CROSSECTIONS, LONGSECTIONS and their mass outlines,
-// read and written back byte for byte, the read-only forms, and what a load
-// does to the sections of older files.
+// what their records are read as, the read-only forms, and what a load does
+// to the sections of older files.
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -19,98 +19,15 @@
 #include "road_model/sections/section_masses.h"
 #include "road_model/sections/section_set.h"
 #include "tests/support/model_file_text.h"
+#include "tests/support/scratch_folder.h"
 
 namespace {
 
-const std::string kSectParamsBody = sCrLf({
-    "INTERVAL 10.000", "TIGHTENANGLE 0.08726646", "MAXCIRCLEDEVXY 0.100", "MAXCIRCLEDEVZ 0.000",
-    "DISTLEFT 20.000", "DISTRIGHT 20.000", "ALL 1", "CHAINSTART 0.0000", "CHAINEND 0.0000",
-    "FLAGS 3", "APPLAYER ",
-});
-
-const std::string kMassCalcBody = sCrLf({
-    "BUILDMODE 0", "CALCMODE 1", "REDUNDANTPOINTTOL 0.001", "TUNNELMODE 0", "CALCSTANDARD 0",
-    "CALCTHEO 1", "CALCPHYS 2", "ROADTYPE 0", "WORKAREA 0", "WORKAREASTART 0.000",
-    "WORKAREAEND 0.000", "SUPERSTRUCTUREMODE 0",
-});
-
-const std::string kCrossSectionsBody = sCrLf({
-    ":CHAIN 1000.0000",
-    "LCLIPDIST -12.500",
-    "RCLIPDIST 14.250",
-    "FLAGS 27",
-    "CLIPINCORNER 1",
-    "CLRANG 5000.12345 6000.50000 20.000 22.500 -1.570796 0.01",
-    "CLTILT 0.02500000 101.25000",
-    "TUNNELROTATION 12.500",
-    "MASS",
-    " 3 12.5 -0.25",
-    " 7 0 1.125",
-    "LAYER 21",
-    "BUILDMETHOD 1",
-    "INTERMETHOD 2",
-    "BLOCKNAME Kum_A",
-    "OPPOSITEDIAGONAL 1",
-    " -7.25 101.5 -20105",
-    " -3 102 -10100 25.5",
-    " 0 100.5 0",
-    " 0 103.125 0 0 2",
-    " 2.5 103 10100 -40 1",
-    " 5 99.75 20100 0 3",
-    "LAYER 12",
-    "BUILDMETHOD 2",
-    " -9.5 98 0",
-    " 9.5 -99999 0",
-    "LAYER 42",
-    ":CHAIN 1000.0000",
-    "CLRANG 0.00000 0.00000 0.000 0.000 0.000000 0",
-    ":CHAIN 1020.0000",
-    "FLAGS 4",
-    "CLRANG 5010.00000 6001.00000 18.500 18.500 1.500000 -0.001234",
-    "TUNNELROTATION -0.500",
-    "LAYER 12",
-    " -1 100 0",
-    " 1 100 0",
-});
-
-const std::string kLongSectionsBody = sCrLf({
-    ":CHAIN 0.0000",
-    "MASS",
-    " 1 5.5 0",
-    "LAYER 12",
-    " 0 100 0",
-    " 250.5 104.25 0 500",
-    ":CHAIN 250.5000",
-    "LAYER 12",
-    " 0 104.25 0",
-});
-
-const std::string kMassLinesBody = sCrLf({
-    ":L 0",
-    "_EXTENT -3 0 4 2 ",
-    "_FIELDVALUES 1000.0000;3;1;",
-    "GUID ",
-    "/XY",
-    "-3 0",
-    "4 2",
-    ":L 0",
-    "_EXTENT -2 0 3 1 ",
-    "_FIELDVALUES 1000.0000;3;0;",
-    "GUID ",
-    "/XY",
-    "-2 0",
-    "3 1",
-});
-
+// A file with every form of the section records: both sets, the mass
+// outlines of both, clipping, tilt, rotation, build info, every point line
+// form and a gap. The record families' test pins its bytes.
 const std::string kFullFile =
-    sCrLf({"[KVRFILE_ASCII]", "_VERSION 2", "_FILETYPE sfi", "_INDEX !!!!!!!!!!!!!!!!!!!!",
-           sExtentLine("-3 0 4 2"), "DATAVERSION 13", "[O_SECTPARAMS]", "[O_CROSSECTIONS]",
-           "[L_CSECTSMASSESLINES]", sExtentLine("-3 0 4 2"),
-           "_FIELDNAMES CHAIN;MASSID;EXACTLINE;", "[O_LONGSECTIONS]", "[O_MASSCALC]",
-           "[+O_SECTPARAMS]"}) +
-    kSectParamsBody + "[+O_CROSSECTIONS]\r\n" + kCrossSectionsBody +
-    "[+L_CSECTSMASSESLINES]\r\n" + kMassLinesBody + "[+O_LONGSECTIONS]\r\n" +
-    kLongSectionsBody + "[+O_MASSCALC]\r\n" + kMassCalcBody + "[END]\r\n";
+    sReadWholeFile(std::string(KVRVIPS_TEST_DATA_DIR) + "/records/section_forms.sfi");
 
 // A model file holding one text section of this name and body, at the
 // DATAVERSION given (none for an empty text).
@@ -128,10 +45,9 @@ RmSection* Nth(const RmSectionSet* set, int n) {
 
 }  // namespace
 
-TEST(SectionRecords, AFileWithEverySectionFormReadsAndWritesBackByteForByte) {
+TEST(SectionRecords, EverySectionFormReadsIntoTheModel) {
   ModelPtr model = ReadModel(kFullFile);
   ASSERT_TRUE(model);
-  EXPECT_EQ(sWrittenModel(model.get()), kFullFile);
 
   // What the lines were read as, where the bytes written back do not show
   // it.
