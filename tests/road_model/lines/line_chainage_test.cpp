@@ -194,8 +194,12 @@ TEST(LineAlignment, ElementsBecomeStraightsArcsAndClothoids) {
                             false);
   RmLineAddAlignmentElement(line, {0.0, 9.0, 0.0, 100.0, 30.0, -50, 150, -59, 150}, false);
   RmLineAddAlignmentElement(line, {0.0, 10.0, 0.0, 0.0, 0.0, -59, 150, -69, 150}, false);
+  // A tenth of a millimetre beyond the half circle is the larger arc.
+  RmLineAddAlignmentElement(line, {0.0, half + 0.0001, 50.0, 50.0, 0.0, -69, 150, -169, 150},
+                            false);
   EXPECT_EQ(dRmLineGetStartChain(line), 0.0);
-  ASSERT_EQ(iLiLineGetElmCount(line), 5);
+  ASSERT_EQ(iLiLineGetElmCount(line), 6);
+  EXPECT_TRUE(boLiElmIsLarge(line, 4));
   // Each piece is set on the point where it starts.
   EXPECT_EQ(LiElmGetType(line, 0), kLiElmArc2p);
   EXPECT_FALSE(boLiElmIsLarge(line, 0));
@@ -207,6 +211,6 @@ TEST(LineAlignment, ElementsBecomeStraightsArcsAndClothoids) {
   EXPECT_NEAR(dLiElmLength(line, 1), 1.5 * half, 1e-9);
   // A second alignment of the same id goes on behind and sets the start.
   RmLineAddAlignmentElement(line, {500.0, 510.0, 0.0, 0.0, 0.0, 0, 0, 10, 0}, true);
-  EXPECT_EQ(iLiLineGetElmCount(line), 7);
+  EXPECT_EQ(iLiLineGetElmCount(line), 8);
   EXPECT_EQ(dRmLineGetStartChain(line), 500.0);
 }
