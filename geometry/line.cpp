@@ -56,8 +56,8 @@ const LiElement* pNext(const LiLine* line, LiElm elm) {
              : nullptr;
 }
 
-// Makes the element's piece a straight again, dropping the data of a curve.
-void vMakeStraight(LiElement* element, int type) {
+// Gives the element a type that needs no data, dropping that of a curve.
+void vSetPlainType(LiElement* element, int type) {
   element->uType = static_cast<uint8_t>(type);
   element->uFlags = 0;
   element->dParam[0] = element->dParam[1] = element->dParam[2] = 0.0;
@@ -156,7 +156,7 @@ LiElm LiLineAddP2d(LiLine* line, double x, double y) {
 
 LiElm LiLineAddPInvisible(LiLine* line, double x, double y, double z) {
   if (line == nullptr) return kLiNoElm;
-  if (!line->elements.empty()) vMakeStraight(&line->elements.back(), kLiElmInvisible);
+  if (!line->elements.empty()) vSetPlainType(&line->elements.back(), kLiElmInvisible);
   return LiLineAddP(line, x, y, z);
 }
 
@@ -229,7 +229,7 @@ bool boLiElmSetType(LiLine* line, LiElm elm, int type) {
   if (type == kLiElmArc2p || type == kLiElmArc3p || type == kLiElmClothoid) {
     return element.uType == type;
   }
-  vMakeStraight(&element, type);
+  vSetPlainType(&element, type);
   return true;
 }
 

@@ -334,6 +334,18 @@ void vRmModelDiscardLongSections(RmModel* model) {
   if (model) LongSectionsSlot::DiscardPending(model);
 }
 
+RmSectionSet* RmModelGetSectionSet(const RmModel* model, int kind) {
+  return kind == kRmLongSections ? RmModelGetLongSections(model) : RmModelGetCrossSections(model);
+}
+
+void vRmModelSetSectionSet(RmModel* model, int kind, RmSectionSet* set) {
+  if (kind == kRmLongSections) {
+    vRmModelSetLongSections(model, set);
+  } else {
+    vRmModelSetCrossSections(model, set);
+  }
+}
+
 // ---- The vocabulary ----
 
 namespace {

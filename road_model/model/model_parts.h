@@ -95,6 +95,11 @@ RmSectionSet* RmModelPrepareLongSections(RmModel* model);
 void vRmModelCommitLongSections(RmModel* model);
 void vRmModelDiscardLongSections(RmModel* model);
 
+// The committed set of a kind (kRmCrossSections or kRmLongSections), for the
+// work that treats both sets alike.
+RmSectionSet* RmModelGetSectionSet(const RmModel* model, int kind);
+void vRmModelSetSectionSet(RmModel* model, int kind, RmSectionSet* set);
+
 // The vocabulary: layer names (LAYERNAMES), the mass types and the
 // annotation types of cross sections (kind 0) and long sections (kind 1).
 // The setters and Prepare stamp the slot's kind into the list.

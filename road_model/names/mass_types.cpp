@@ -277,10 +277,3 @@ void vRmMassNumbersAdd(RmMassNumbers* numbers, int32_t value) {
   grown[numbers->Count++] = value;
   numbers->Numbers = grown;
 }
-
-bool boRmMassNumbersHas(const RmMassNumbers* numbers, int32_t value) {
-  for (int32_t i = 0; i < numbers->Count; ++i) {
-    if (numbers->Numbers[i] == value) return true;
-  }
-  return false;
-}

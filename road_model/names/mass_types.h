@@ -127,4 +127,3 @@ RmMassChainRange* RmMassChainRangeFind(const RmMassType* type, double chain);
 
 void vRmMassNumbersSet(RmMassNumbers* numbers, const int32_t* values, int32_t count);
 void vRmMassNumbersAdd(RmMassNumbers* numbers, int32_t value);
-bool boRmMassNumbersHas(const RmMassNumbers* numbers, int32_t value);

@@ -39,3 +39,13 @@ struct RmRecordFamily {
   void (*Read)(AsfFile* file, AsfSection* section, RmModel* model,
                const RmRecordFamily& family) = nullptr;
 };
+
+// The family of the other section set: the same functions under that set's
+// keyword, so that the two families of a pair differ only where the file
+// does.
+constexpr RmRecordFamily RmRecordFamilyForSet(RmRecordFamily family, const char* keyword,
+                                              int sectionSet) {
+  family.Keyword = keyword;
+  family.SectionSet = sectionSet;
+  return family;
+}

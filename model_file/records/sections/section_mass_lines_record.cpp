@@ -134,13 +134,8 @@ void vReadRecords(AsfFile* file, AsfSection* section, RmSectionSet* set) {
   }
 }
 
-RmSectionSet* SetOf(const RmModel* model, const RmRecordFamily& family) {
-  return family.SectionSet == kRmLongSections ? RmModelGetLongSections(model)
-                                              : RmModelGetCrossSections(model);
-}
-
 bool boPresent(const RmModel* model, const RmRecordFamily& family) {
-  return boHasMassLines(SetOf(model, family));
+  return boHasMassLines(RmModelGetSectionSet(model, family.SectionSet));
 }
 
 void vPrepare(AsfFile* file, AsfSection* section, const RmModel*, const RmRecordFamily&) {
@@ -149,17 +144,17 @@ void vPrepare(AsfFile* file, AsfSection* section, const RmModel*, const RmRecord
 
 void vWrite(AsfFile* file, AsfSection* section, const RmModel* model,
             const RmRecordFamily& family) {
-  vWriteRecords(file, section, SetOf(model, family));
+  vWriteRecords(file, section, RmModelGetSectionSet(model, family.SectionSet));
 }
 
 // The outlines hang on the masses of the set read before.
 void vRead(AsfFile* file, AsfSection* section, RmModel* model, const RmRecordFamily& family) {
-  vReadRecords(file, section, SetOf(model, family));
+  vReadRecords(file, section, RmModelGetSectionSet(model, family.SectionSet));
 }
 
 }  // namespace
 
-const RmRecordFamily kRmCrossMassLinesFamily = {
+constexpr RmRecordFamily kRmCrossMassLinesFamily = {
     .Keyword = "CSECTSMASSESLINES",
     .Letter = 'L',
     .SectionSet = kRmCrossSections,
@@ -169,12 +164,5 @@ const RmRecordFamily kRmCrossMassLinesFamily = {
     .Read = vRead,
 };
 
-const RmRecordFamily kRmLongMassLinesFamily = {
-    .Keyword = "LSECTSMASSESLINES",
-    .Letter = 'L',
-    .SectionSet = kRmLongSections,
-    .HasContent = boPresent,
-    .Prepare = vPrepare,
-    .Write = vWrite,
-    .Read = vRead,
-};
+const RmRecordFamily kRmLongMassLinesFamily =
+    RmRecordFamilyForSet(kRmCrossMassLinesFamily, "LSECTSMASSESLINES", kRmLongSections);

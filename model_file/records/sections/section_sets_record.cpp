@@ -281,18 +281,13 @@ bool boRmSectionSetReadRecords(AsfFile* file, AsfSection* section, RmSectionSet*
 
 namespace {
 
-RmSectionSet* SetOf(const RmModel* model, const RmRecordFamily& family) {
-  return family.SectionSet == kRmLongSections ? RmModelGetLongSections(model)
-                                              : RmModelGetCrossSections(model);
-}
-
 bool boPresent(const RmModel* model, const RmRecordFamily& family) {
-  return RmSectionsGetFirst(SetOf(model, family)) != nullptr;
+  return RmSectionsGetFirst(RmModelGetSectionSet(model, family.SectionSet)) != nullptr;
 }
 
 void vWrite(AsfFile* file, AsfSection* section, const RmModel* model,
             const RmRecordFamily& family) {
-  vRmSectionSetWriteRecords(file, section, SetOf(model, family));
+  vRmSectionSetWriteRecords(file, section, RmModelGetSectionSet(model, family.SectionSet));
 }
 
 // A set that cannot be read whole is dropped; the model keeps no set then.
@@ -300,16 +295,12 @@ void vRead(AsfFile* file, AsfSection* section, RmModel* model, const RmRecordFam
   RmSectionSet* set = RmSectionSetCreate();
   if (set) set->Kind = family.SectionSet;
   if (set && !boRmSectionSetReadRecords(file, section, set)) vRmSectionSetDelete(&set);
-  if (family.SectionSet == kRmLongSections) {
-    vRmModelSetLongSections(model, set);
-  } else {
-    vRmModelSetCrossSections(model, set);
-  }
+  vRmModelSetSectionSet(model, family.SectionSet, set);
 }
 
 }  // namespace
 
-const RmRecordFamily kRmCrossSectionsFamily = {
+constexpr RmRecordFamily kRmCrossSectionsFamily = {
     .Keyword = "CROSSECTIONS",
     .Letter = 'O',
     .SectionSet = kRmCrossSections,
@@ -318,11 +309,5 @@ const RmRecordFamily kRmCrossSectionsFamily = {
     .Read = vRead,
 };
 
-const RmRecordFamily kRmLongSectionsFamily = {
-    .Keyword = "LONGSECTIONS",
-    .Letter = 'O',
-    .SectionSet = kRmLongSections,
-    .HasContent = boPresent,
-    .Write = vWrite,
-    .Read = vRead,
-};
+const RmRecordFamily kRmLongSectionsFamily =
+    RmRecordFamilyForSet(kRmCrossSectionsFamily, "LONGSECTIONS", kRmLongSections);

@@ -112,7 +112,7 @@ void vRead(AsfFile* file, AsfSection* section, RmModel* model, const RmRecordFam
 
 }  // namespace
 
-const RmRecordFamily kRmCrossAnnotationTypesFamily = {
+constexpr RmRecordFamily kRmCrossAnnotationTypesFamily = {
     .Keyword = "CSECTANOTATIONTYPES",
     .Letter = 'O',
     .SectionSet = kRmCrossSections,
@@ -121,11 +121,5 @@ const RmRecordFamily kRmCrossAnnotationTypesFamily = {
     .Read = vRead,
 };
 
-const RmRecordFamily kRmLongAnnotationTypesFamily = {
-    .Keyword = "LSECTANOTATIONTYPES",
-    .Letter = 'O',
-    .SectionSet = kRmLongSections,
-    .HasContent = boPresent,
-    .Write = vWrite,
-    .Read = vRead,
-};
+const RmRecordFamily kRmLongAnnotationTypesFamily =
+    RmRecordFamilyForSet(kRmCrossAnnotationTypesFamily, "LSECTANOTATIONTYPES", kRmLongSections);

@@ -224,7 +224,7 @@ void vRead(AsfFile* file, AsfSection* section, RmModel* model, const RmRecordFam
 
 }  // namespace
 
-const RmRecordFamily kRmCrossMassTypesFamily = {
+constexpr RmRecordFamily kRmCrossMassTypesFamily = {
     .Keyword = "CSECTMASSTYPES",
     .Letter = 'O',
     .SectionSet = kRmCrossSections,
@@ -233,11 +233,5 @@ const RmRecordFamily kRmCrossMassTypesFamily = {
     .Read = vRead,
 };
 
-const RmRecordFamily kRmLongMassTypesFamily = {
-    .Keyword = "LSECTMASSTYPES",
-    .Letter = 'O',
-    .SectionSet = kRmLongSections,
-    .HasContent = boPresent,
-    .Write = vWrite,
-    .Read = vRead,
-};
+const RmRecordFamily kRmLongMassTypesFamily =
+    RmRecordFamilyForSet(kRmCrossMassTypesFamily, "LSECTMASSTYPES", kRmLongSections);

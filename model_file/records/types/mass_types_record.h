@@ -9,7 +9,7 @@
 //   FLAYERS 11 21
 //   CHAINRANGES
 //    0.0000 250.0000 1 0
-//   PRES Color:9 Mat:1 Hatch:Hatch(HType:10 HFact:1.000 )
+//   PRES Color:9 Mat:1 Hatch:Hatch(HFillCol:-1 HType:10 HFact:1.000 )
 //
 // A load turns the older single-layer rules of cross-section types into
 // layer lists and gives each type without a category the one of its number.
