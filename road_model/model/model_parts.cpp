@@ -14,6 +14,8 @@
 #include "road_model/params/sect_params.h"
 #include "road_model/params/sect_triangulation_params.h"
 #include "road_model/sections/section_set.h"
+#include "road_model/tables/side_boundaries.h"
+#include "road_model/tables/surface_border_lines.h"
 
 namespace {
 
@@ -131,6 +133,12 @@ using LSectAnnotationTypesSlot =
 using RoadDimParamsSlot = Slot<&RmModel::RoadDimParams, &RmModel::RoadDimParamsPending,
                                RmRoadDimParamsCreate, vRmRoadDimParamsDelete,
                                vRmRoadDimParamsCopy>;
+using SideBoundariesSlot = Slot<&RmModel::SideBoundaries, &RmModel::SideBoundariesPending,
+                                RmSideBoundariesCreate, vRmSideBoundariesDelete,
+                                vRmSideBoundariesCopy>;
+using SurfaceBorderLinesSlot =
+    Slot<&RmModel::SurfaceBorderLines, &RmModel::SurfaceBorderLinesPending,
+         RmSurfaceBorderLinesCreate, vRmSurfaceBorderLinesDelete, vRmSurfaceBorderLinesCopy>;
 
 // One row per sub-object type, in release order. The model's full order is
 // AdmData, Hyperlinks, LayerNames, CSectMassTypes, LSectMassTypes,
@@ -157,6 +165,8 @@ constexpr RmModelPart kParts[] = {
     CrossSectionsSlot::Row(),
     LongSectionsSlot::Row(),
     RoadDimParamsSlot::Row(),
+    SideBoundariesSlot::Row(),
+    SurfaceBorderLinesSlot::Row(),
 };
 
 }  // namespace
@@ -243,6 +253,67 @@ void vRmModelCommitRoadDimParams(RmModel* model) {
 
 void vRmModelDiscardRoadDimParams(RmModel* model) {
   if (model) RoadDimParamsSlot::DiscardPending(model);
+}
+
+// ---- The side tables of the root ----
+
+RmSideBoundaries* RmModelGetSideBoundaries(const RmModel* model) {
+  return model ? model->SideBoundaries : nullptr;
+}
+
+void vRmModelSetSideBoundaries(RmModel* model, RmSideBoundaries* boundaries) {
+  if (model) SideBoundariesSlot::Replace(&model->SideBoundaries, boundaries);
+}
+
+RmSideBoundaries* RmModelGetSideBoundariesPending(const RmModel* model) {
+  return model ? model->SideBoundariesPending : nullptr;
+}
+
+RmSideBoundaries* RmModelGetSideBoundariesEffective(const RmModel* model) {
+  if (!model) return nullptr;
+  return model->SideBoundariesPending ? model->SideBoundariesPending : model->SideBoundaries;
+}
+
+RmSideBoundaries* RmModelPrepareSideBoundaries(RmModel* model) {
+  return model ? SideBoundariesSlot::Prepare(model) : nullptr;
+}
+
+void vRmModelCommitSideBoundaries(RmModel* model) {
+  if (model) SideBoundariesSlot::Commit(model);
+}
+
+void vRmModelDiscardSideBoundaries(RmModel* model) {
+  if (model) SideBoundariesSlot::DiscardPending(model);
+}
+
+RmSurfaceBorderLines* RmModelGetSurfaceBorderLines(const RmModel* model) {
+  return model ? model->SurfaceBorderLines : nullptr;
+}
+
+void vRmModelSetSurfaceBorderLines(RmModel* model, RmSurfaceBorderLines* lines) {
+  if (model) SurfaceBorderLinesSlot::Replace(&model->SurfaceBorderLines, lines);
+}
+
+RmSurfaceBorderLines* RmModelGetSurfaceBorderLinesPending(const RmModel* model) {
+  return model ? model->SurfaceBorderLinesPending : nullptr;
+}
+
+RmSurfaceBorderLines* RmModelGetSurfaceBorderLinesEffective(const RmModel* model) {
+  if (!model) return nullptr;
+  return model->SurfaceBorderLinesPending ? model->SurfaceBorderLinesPending
+                                          : model->SurfaceBorderLines;
+}
+
+RmSurfaceBorderLines* RmModelPrepareSurfaceBorderLines(RmModel* model) {
+  return model ? SurfaceBorderLinesSlot::Prepare(model) : nullptr;
+}
+
+void vRmModelCommitSurfaceBorderLines(RmModel* model) {
+  if (model) SurfaceBorderLinesSlot::Commit(model);
+}
+
+void vRmModelDiscardSurfaceBorderLines(RmModel* model) {
+  if (model) SurfaceBorderLinesSlot::DiscardPending(model);
 }
 
 // ---- The section sets ----

@@ -16,6 +16,8 @@ struct RmRoadDimParams;
 struct RmSectParams;
 struct RmSectTriangulationParams;
 struct RmSectionSet;
+struct RmSideBoundaries;
+struct RmSurfaceBorderLines;
 
 struct RmModelPart {
   // Creates the object that a new model has; null when a new model has none.
@@ -71,6 +73,26 @@ RmRoadDimParams* RmModelGetRoadDimParamsEffective(const RmModel* model);
 RmRoadDimParams* RmModelPrepareRoadDimParams(RmModel* model);
 void vRmModelCommitRoadDimParams(RmModel* model);
 void vRmModelDiscardRoadDimParams(RmModel* model);
+
+// The side boundaries (SIDEBOUNDARIES) and the surface border lines
+// (SURFACEBORDERLINES) of the model; a surface group has border lines of its
+// own besides.
+
+RmSideBoundaries* RmModelGetSideBoundaries(const RmModel* model);
+void vRmModelSetSideBoundaries(RmModel* model, RmSideBoundaries* boundaries);
+RmSideBoundaries* RmModelGetSideBoundariesPending(const RmModel* model);
+RmSideBoundaries* RmModelGetSideBoundariesEffective(const RmModel* model);
+RmSideBoundaries* RmModelPrepareSideBoundaries(RmModel* model);
+void vRmModelCommitSideBoundaries(RmModel* model);
+void vRmModelDiscardSideBoundaries(RmModel* model);
+
+RmSurfaceBorderLines* RmModelGetSurfaceBorderLines(const RmModel* model);
+void vRmModelSetSurfaceBorderLines(RmModel* model, RmSurfaceBorderLines* lines);
+RmSurfaceBorderLines* RmModelGetSurfaceBorderLinesPending(const RmModel* model);
+RmSurfaceBorderLines* RmModelGetSurfaceBorderLinesEffective(const RmModel* model);
+RmSurfaceBorderLines* RmModelPrepareSurfaceBorderLines(RmModel* model);
+void vRmModelCommitSurfaceBorderLines(RmModel* model);
+void vRmModelDiscardSurfaceBorderLines(RmModel* model);
 
 // The two section sets: cross sections (CROSSECTIONS) and long sections
 // (LONGSECTIONS). The setters stamp the set's kind: 0 for cross sections, 1
