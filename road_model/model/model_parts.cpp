@@ -14,6 +14,12 @@
 #include "road_model/params/sect_params.h"
 #include "road_model/params/sect_triangulation_params.h"
 #include "road_model/sections/section_set.h"
+#include "road_model/bim/bim_attributes.h"
+#include "road_model/chain_data/chain_data.h"
+#include "road_model/tunnel/ditch_param_data.h"
+#include "road_model/tunnel/tunnel_blocks.h"
+#include "road_model/tunnel/tunnel_data.h"
+#include "road_model/tunnel/tunnel_param_data.h"
 #include "road_model/tables/side_boundaries.h"
 #include "road_model/tables/surface_border_lines.h"
 
@@ -140,6 +146,23 @@ using SurfaceBorderLinesSlot =
     Slot<&RmModel::SurfaceBorderLines, &RmModel::SurfaceBorderLinesPending,
          RmSurfaceBorderLinesCreate, vRmSurfaceBorderLinesDelete, vRmSurfaceBorderLinesCopy>;
 
+using ChainDataSlot = Slot<&RmModel::ChainData, &RmModel::ChainDataPending, RmChainDataCreate,
+                           vRmChainDataDelete, vRmChainDataCopy>;
+using TunnelDataSlot = Slot<&RmModel::TunnelData, &RmModel::TunnelDataPending,
+                            RmTunnelDataCreate, vRmTunnelDataDelete, vRmTunnelDataCopy>;
+using TunnelParamDataSlot =
+    Slot<&RmModel::TunnelParamData, &RmModel::TunnelParamDataPending, RmTunnelParamDataCreate,
+         vRmTunnelParamDataDelete, vRmTunnelParamDataCopy>;
+using TunnelBlocksSlot = Slot<&RmModel::TunnelBlocks, nullptr, RmTunnelBlocksCreate,
+                              vRmTunnelBlocksDelete, vRmTunnelBlocksCopy>;
+using DitchParamDataSlot = Slot<&RmModel::DitchParamData, nullptr, RmDitchParamDataCreate,
+                                vRmDitchParamDataDelete, vRmDitchParamDataCopy>;
+// The BIM store is never copied; the slot's copy operation is not used.
+void vNoBimCopy(RmBimAttributes*, const RmBimAttributes*) {}
+using BimAttributesSlot = Slot<&RmModel::BimAttributes, nullptr, RmBimAttributesCreate,
+                               vRmBimAttributesDelete, vNoBimCopy>;
+void vCopyNoBimAttributes(RmModel*, const RmModel*, bool) {}
+
 // One row per sub-object type, in release order. The model's full order is
 // AdmData, Hyperlinks, LayerNames, CSectMassTypes, LSectMassTypes,
 // CSectAnnotationTypes, LSectAnnotationTypes (both committed after the
@@ -165,8 +188,16 @@ constexpr RmModelPart kParts[] = {
     CrossSectionsSlot::Row(),
     LongSectionsSlot::Row(),
     RoadDimParamsSlot::Row(),
+    ChainDataSlot::Row(),
     SideBoundariesSlot::Row(),
     SurfaceBorderLinesSlot::Row(),
+    TunnelDataSlot::Row(),
+    TunnelParamDataSlot::Row(),
+    TunnelBlocksSlot::Row(kCreatedAtInit),
+    DitchParamDataSlot::Row(),
+    // Not copied with the model: see RmModelGetBimAttributes.
+    RmModelPart{nullptr, BimAttributesSlot::Release, nullptr, nullptr, vCopyNoBimAttributes,
+                false},
 };
 
 }  // namespace
@@ -474,4 +505,61 @@ KVRVIPS_VOCABULARY_SLOT(LSectAnnotationTypes, RmAnnotationTypes, LSectAnnotation
 RmLayerNames* RmModelGetOrCreateLayerNames(RmModel* model) {
   if (model && !model->LayerNames) vRmModelSetLayerNames(model, RmLayerNamesCreate());
   return RmModelGetLayerNames(model);
+}
+
+// ---- Chain data, tunnel and ditch parameters, the BIM store ----
+
+// The operations of a slot with a pending form.
+#define KVRVIPS_PENDING_SLOT(Name, Type, SlotType)                                \
+  Type* RmModelGet##Name(const RmModel* model) {                                  \
+    return model ? model->Name : nullptr;                                         \
+  }                                                                               \
+  void vRmModelSet##Name(RmModel* model, Type* object) {                          \
+    if (model) SlotType::Replace(&model->Name, object);                           \
+  }                                                                               \
+  Type* RmModelGet##Name##Pending(const RmModel* model) {                         \
+    return model ? model->Name##Pending : nullptr;                                \
+  }                                                                               \
+  Type* RmModelGet##Name##Effective(const RmModel* model) {                       \
+    if (!model) return nullptr;                                                   \
+    return model->Name##Pending ? model->Name##Pending : model->Name;             \
+  }                                                                               \
+  Type* RmModelPrepare##Name(RmModel* model) {                                    \
+    return model ? SlotType::Prepare(model) : nullptr;                            \
+  }                                                                               \
+  void vRmModelCommit##Name(RmModel* model) {                                     \
+    if (model) SlotType::Commit(model);                                           \
+  }                                                                               \
+  void vRmModelDiscard##Name(RmModel* model) {                                    \
+    if (model) SlotType::DiscardPending(model);                                   \
+  }
+
+KVRVIPS_PENDING_SLOT(ChainData, RmChainData, ChainDataSlot)
+KVRVIPS_PENDING_SLOT(TunnelData, RmTunnelData, TunnelDataSlot)
+KVRVIPS_PENDING_SLOT(TunnelParamData, RmTunnelParamData, TunnelParamDataSlot)
+
+#undef KVRVIPS_PENDING_SLOT
+
+RmTunnelBlocks* RmModelGetTunnelBlocks(const RmModel* model) {
+  return model ? model->TunnelBlocks : nullptr;
+}
+
+void vRmModelSetTunnelBlocks(RmModel* model, RmTunnelBlocks* blocks) {
+  if (model) TunnelBlocksSlot::Replace(&model->TunnelBlocks, blocks);
+}
+
+RmDitchParamData* RmModelGetDitchParamData(const RmModel* model) {
+  return model ? model->DitchParamData : nullptr;
+}
+
+void vRmModelSetDitchParamData(RmModel* model, RmDitchParamData* data) {
+  if (model) DitchParamDataSlot::Replace(&model->DitchParamData, data);
+}
+
+RmBimAttributes* RmModelGetBimAttributes(const RmModel* model) {
+  return model ? model->BimAttributes : nullptr;
+}
+
+void vRmModelSetBimAttributes(RmModel* model, RmBimAttributes* store) {
+  if (model) BimAttributesSlot::Replace(&model->BimAttributes, store);
 }

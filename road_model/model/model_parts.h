@@ -19,6 +19,13 @@ struct RmSectionSet;
 struct RmSideBoundaries;
 struct RmSurfaceBorderLines;
 
+struct RmBimAttributes;
+struct RmChainData;
+struct RmDitchParamData;
+struct RmTunnelBlocks;
+struct RmTunnelData;
+struct RmTunnelParamData;
+
 struct RmModelPart {
   // Creates the object that a new model has; null when a new model has none.
   void (*Init)(RmModel* model);
@@ -167,3 +174,43 @@ RmAnnotationTypes* RmModelGetLSectAnnotationTypesEffective(const RmModel* model)
 RmAnnotationTypes* RmModelPrepareLSectAnnotationTypes(RmModel* model);
 void vRmModelCommitLSectAnnotationTypes(RmModel* model);
 void vRmModelDiscardLSectAnnotationTypes(RmModel* model);
+
+// Chain data (CHAINDATA), tunnel data (TUNNELDATA) and tunnel parameters
+// (TUNNELPARAMDATA), each with a pending form; the tunnel blocks with their
+// inserts (TUNNELBLOCKS, TUNNELBLOCKINSERTS), which a new model has, and the
+// ditch parameters (DITCHPARAMDATA), without one.
+
+RmChainData* RmModelGetChainData(const RmModel* model);
+void vRmModelSetChainData(RmModel* model, RmChainData* data);
+RmChainData* RmModelGetChainDataPending(const RmModel* model);
+RmChainData* RmModelGetChainDataEffective(const RmModel* model);
+RmChainData* RmModelPrepareChainData(RmModel* model);
+void vRmModelCommitChainData(RmModel* model);
+void vRmModelDiscardChainData(RmModel* model);
+
+RmTunnelData* RmModelGetTunnelData(const RmModel* model);
+void vRmModelSetTunnelData(RmModel* model, RmTunnelData* data);
+RmTunnelData* RmModelGetTunnelDataPending(const RmModel* model);
+RmTunnelData* RmModelGetTunnelDataEffective(const RmModel* model);
+RmTunnelData* RmModelPrepareTunnelData(RmModel* model);
+void vRmModelCommitTunnelData(RmModel* model);
+void vRmModelDiscardTunnelData(RmModel* model);
+
+RmTunnelParamData* RmModelGetTunnelParamData(const RmModel* model);
+void vRmModelSetTunnelParamData(RmModel* model, RmTunnelParamData* data);
+RmTunnelParamData* RmModelGetTunnelParamDataPending(const RmModel* model);
+RmTunnelParamData* RmModelGetTunnelParamDataEffective(const RmModel* model);
+RmTunnelParamData* RmModelPrepareTunnelParamData(RmModel* model);
+void vRmModelCommitTunnelParamData(RmModel* model);
+void vRmModelDiscardTunnelParamData(RmModel* model);
+
+RmTunnelBlocks* RmModelGetTunnelBlocks(const RmModel* model);
+void vRmModelSetTunnelBlocks(RmModel* model, RmTunnelBlocks* blocks);
+
+RmDitchParamData* RmModelGetDitchParamData(const RmModel* model);
+void vRmModelSetDitchParamData(RmModel* model, RmDitchParamData* data);
+
+// The BIM store; null unless a host sets one. A copy of a model has none:
+// the store's serializers belong to the model they were made for.
+RmBimAttributes* RmModelGetBimAttributes(const RmModel* model);
+void vRmModelSetBimAttributes(RmModel* model, RmBimAttributes* store);

@@ -1,6 +1,8 @@
 #include "model_file/records/frame/record_families.h"
 
+#include "model_file/records/bim/bim_attributes_record.h"
 #include "model_file/records/head/adm_data_record.h"
+#include "model_file/records/head/chain_data_record.h"
 #include "model_file/records/head/hyperlinks_record.h"
 #include "model_file/records/head/mass_calc_record.h"
 #include "model_file/records/head/road_dim_params_record.h"
@@ -12,6 +14,11 @@
 #include "model_file/records/lines/ver_line_record.h"
 #include "model_file/records/sections/section_mass_lines_record.h"
 #include "model_file/records/sections/section_sets_record.h"
+#include "model_file/records/tunnel/ditch_param_data_record.h"
+#include "model_file/records/tunnel/tunnel_block_inserts_record.h"
+#include "model_file/records/tunnel/tunnel_blocks_record.h"
+#include "model_file/records/tunnel/tunnel_data_record.h"
+#include "model_file/records/tunnel/tunnel_param_data_record.h"
 #include "model_file/records/types/annotation_types_record.h"
 #include "model_file/records/types/layer_names_record.h"
 #include "model_file/records/types/mass_types_record.h"
@@ -34,11 +41,19 @@ constexpr const RmRecordFamily* kWriteOrder[] = {
     &kRmLongMassLinesFamily,
     &kRmRoadDimParamsFamily,
     &kRmMassCalcFamily,
+    &kRmChainDataFamily,
     &kRmLayerNamesFamily,
+    &kRmBimAttributesDataFamily,
     &kRmCrossMassTypesFamily,
     &kRmLongMassTypesFamily,
     &kRmCrossAnnotationTypesFamily,
     &kRmLongAnnotationTypesFamily,
+    &kRmBimAttributesSchemaFamily,
+    &kRmTunnelDataFamily,
+    &kRmTunnelBlocksFamily,
+    &kRmTunnelBlockInsertsFamily,
+    &kRmTunnelParamDataFamily,
+    &kRmDitchParamDataFamily,
 };
 
 // The order of reading states what a reader needs of those before it.
@@ -60,13 +75,24 @@ constexpr const RmRecordFamily* kReadOrder[] = {
     &kRmLongMassLinesFamily,
     &kRmRoadDimParamsFamily,
     &kRmMassCalcFamily,
+    &kRmChainDataFamily,
     // The vocabulary needs nothing read before it; the annotation types of
     // older files are completed after all sections (migrations.cpp).
     &kRmLayerNamesFamily,
+    // Hands the layers just read to the BIM store of the model, if it has
+    // one.
+    &kRmBimAttributesDataFamily,
     &kRmCrossMassTypesFamily,
     &kRmLongMassTypesFamily,
     &kRmCrossAnnotationTypesFamily,
     &kRmLongAnnotationTypesFamily,
+    // The blocks and their inserts go into the blocks object that every
+    // model has; the schema of BIM attributes is not read.
+    &kRmTunnelDataFamily,
+    &kRmTunnelBlocksFamily,
+    &kRmTunnelBlockInsertsFamily,
+    &kRmTunnelParamDataFamily,
+    &kRmDitchParamDataFamily,
 };
 
 // That each section is read exactly once is checked by the tests of the

@@ -8,6 +8,7 @@
 #include <set>
 #include <string>
 
+#include "model_file/records/bim/bim_attributes_record.h"
 #include "model_file/records/frame/record_families.h"
 #include "tests/support/model_file_text.h"
 #include "tests/support/scratch_folder.h"
@@ -15,7 +16,7 @@
 namespace {
 
 const char* const kFixtures[] = {"head_sections.sfi", "plan_lines.sfi", "section_forms.sfi",
-                                 "vocabulary.sfi"};
+                                 "vocabulary.sfi", "tunnel_chain.sfi"};
 
 // The head line of a family's body in a file: "[+L_]", "[+O_MASSCALC]".
 std::string sBodyHead(const RmRecordFamily& family) {
@@ -42,6 +43,10 @@ TEST(RecordFamilies, EveryFamilyReadsBackWhatItWrote) {
       if (body != "<none>") held.insert(family);
     }
   }
+  // A loaded model has no BIM store, so no fixture can hold the BIM
+  // sections; their own tests write them.
+  held.insert(&kRmBimAttributesDataFamily);
+  held.insert(&kRmBimAttributesSchemaFamily);
   for (const RmRecordFamily* family : RmRecordFamiliesInWriteOrder()) {
     EXPECT_TRUE(held.count(family)) << "no fixture holds " << family->Keyword;
   }
@@ -50,8 +55,12 @@ TEST(RecordFamilies, EveryFamilyReadsBackWhatItWrote) {
 TEST(RecordFamilies, EachSectionIsReadExactlyOnce) {
   auto written = RmRecordFamiliesInWriteOrder();
   auto read = RmRecordFamiliesInReadOrder();
-  ASSERT_EQ(written.size(), read.size());
+  // A section without a reader (the BIM schema) is written only.
+  auto readable = std::count_if(written.begin(), written.end(),
+                                [](const RmRecordFamily* family) { return family->Read; });
+  ASSERT_EQ(static_cast<long>(read.size()), readable);
   for (const RmRecordFamily* family : written) {
-    EXPECT_EQ(std::count(read.begin(), read.end(), family), 1) << family->Keyword;
+    EXPECT_EQ(std::count(read.begin(), read.end(), family), family->Read ? 1 : 0)
+        << family->Keyword;
   }
 }
