@@ -73,17 +73,16 @@ constexpr RmChainRangeField kSoilCutPlasterFields[] = {
 
 const RmChainRangeKind kRmRockBenches = {"RockBenches", 2, sizeof(RmRockBench), kRockBenchFields,
                                          kRockBenchTableFields};
-const RmChainRangeKind kRmMinDitchDepths = {"MinDitchDepths", 1, sizeof(RmMinDitchDepth),
-                                            kMinDitchDepthFields, {}};
-const RmChainRangeKind kRmStoneExcavationSlopes = {"StoneExcavationSlopes", 1,
-                                                   sizeof(RmStoneExcavationSlope),
-                                                   kStoneExcavationSlopeFields, {}};
-const RmChainRangeKind kRmDeepRockBlasts = {"DeepRockBlasts", 1, sizeof(RmDeepRockBlast),
-                                            kDeepRockBlastFields, {}};
+const RmChainRangeKind kRmMinDitchDepths = {
+    "MinDitchDepths", 1, sizeof(RmMinDitchDepth), kMinDitchDepthFields, {}};
+const RmChainRangeKind kRmStoneExcavationSlopes = {
+    "StoneExcavationSlopes", 1, sizeof(RmStoneExcavationSlope), kStoneExcavationSlopeFields, {}};
+const RmChainRangeKind kRmDeepRockBlasts = {
+    "DeepRockBlasts", 1, sizeof(RmDeepRockBlast), kDeepRockBlastFields, {}};
 const RmChainRangeKind kRmFillDitches = {"FillDitches", 2, 0, {}, {}};
-const RmChainRangeKind kRmRemovalTopsoils = {"RemovalTopsoils", 1, sizeof(RmRemovalTopsoil),
-                                             kRemovalTopsoilFields, {}};
-const RmChainRangeKind kRmUnsuitableSoils = {"UnsuitableSoils", 1, sizeof(RmUnsuitableSoil),
-                                             kUnsuitableSoilFields, {}};
-const RmChainRangeKind kRmSoilCutPlasters = {"SoilCutPlasters", 1, sizeof(RmSoilCutPlaster),
-                                             kSoilCutPlasterFields, {}};
+const RmChainRangeKind kRmRemovalTopsoils = {
+    "RemovalTopsoils", 1, sizeof(RmRemovalTopsoil), kRemovalTopsoilFields, {}};
+const RmChainRangeKind kRmUnsuitableSoils = {
+    "UnsuitableSoils", 1, sizeof(RmUnsuitableSoil), kUnsuitableSoilFields, {}};
+const RmChainRangeKind kRmSoilCutPlasters = {
+    "SoilCutPlasters", 1, sizeof(RmSoilCutPlaster), kSoilCutPlasterFields, {}};

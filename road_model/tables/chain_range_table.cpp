@@ -148,9 +148,10 @@ void vRmChainRangeSort(RmChainRangeList* list) {
   if (!list || !list->Rows.first) return;
   std::vector<RmChainRangeRow*> rows;
   for (RmChainRangeRow* row = RmChainRangeGetFirst(list); row; row = row->Next) rows.push_back(row);
-  std::stable_sort(rows.begin(), rows.end(), [](const RmChainRangeRow* a, const RmChainRangeRow* b) {
-    return a->Range.Low < b->Range.Low - kSameStart;
-  });
+  std::stable_sort(rows.begin(), rows.end(),
+                   [](const RmChainRangeRow* a, const RmChainRangeRow* b) {
+                     return a->Range.Low < b->Range.Low - kSameStart;
+                   });
   RmChainRangeRow* prev = nullptr;
   for (RmChainRangeRow* row : rows) {
     row->Prev = prev;

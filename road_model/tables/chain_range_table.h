@@ -28,7 +28,7 @@ struct RmChainRangeList {
 
 struct RmChainRangeTable {
   const RmChainRangeKind* Kind;
-  RmChainRangeList Lists[2];  // the one list, or left and right
+  RmChainRangeList Lists[2];                   // the one list, or left and right
   double Values[kRmChainRangeMaxTableFields];  // the kind's table fields
 };
 

@@ -1,11 +1,12 @@
 // The chain range tables, one suite over every member of the family: what
 // differs between members is their kind, so each case runs on each kind.
+#include "road_model/tables/chain_range_table.h"
+
 #include <gtest/gtest.h>
 
 #include <vector>
 
 #include "road_model/tables/chain_range_members.h"
-#include "road_model/tables/chain_range_table.h"
 #include "tests/support/owned.h"
 
 namespace {
@@ -49,7 +50,9 @@ TEST_P(ChainRangeTables, ANewTableHasTheListsOfItsSidesAndNoRows) {
   EXPECT_EQ(RmChainRangeTableGetRows(table) != nullptr, !sided);
   EXPECT_EQ(RmChainRangeTableGetLeft(table) != nullptr, sided);
   EXPECT_EQ(RmChainRangeTableGetRight(table) != nullptr, sided);
-  if (sided) EXPECT_NE(RmChainRangeTableGetLeft(table), RmChainRangeTableGetRight(table));
+  if (sided) {
+    EXPECT_NE(RmChainRangeTableGetLeft(table), RmChainRangeTableGetRight(table));
+  }
   EXPECT_FALSE(boRmChainRangeTableHasRows(table));
   for (size_t i = 0; i < kind->TableFields.size(); ++i) {
     EXPECT_EQ(dRmChainRangeTableGetValue(table, static_cast<int>(i)), kind->TableFields[i].Default);
@@ -133,8 +136,8 @@ TEST_P(ChainRangeTables, ACopyIsDeepAndTakesTheKind) {
 INSTANTIATE_TEST_SUITE_P(Members, ChainRangeTables,
                          testing::Values(&kRmRockBenches, &kRmMinDitchDepths,
                                          &kRmStoneExcavationSlopes, &kRmDeepRockBlasts,
-                                         &kRmFillDitches, &kRmRemovalTopsoils,
-                                         &kRmUnsuitableSoils, &kRmSoilCutPlasters),
+                                         &kRmFillDitches, &kRmRemovalTopsoils, &kRmUnsuitableSoils,
+                                         &kRmSoilCutPlasters),
                          [](const testing::TestParamInfo<const RmChainRangeKind*>& info) {
                            return std::string(info.param->Name);
                          });
