@@ -1,0 +1,221 @@
+#include "road_model/surfaces/surfaces.h"
+
+#include "base/numbers.h"
+#include "base/text.h"
+#include "road_model/surfaces/surface_groups.h"
+
+namespace {
+
+void vFreeSurface(RmSurface* surface) {
+  vDLinkClear(&surface->Rows);
+  vHeapFree(&surface->Descr);
+}
+
+}  // namespace
+
+// ---- Surfaces of a group ----
+
+RmSurface* RmSurfacesGetFirst(const RmSurfaceGroup* group) {
+  return group ? static_cast<RmSurface*>(group->Surfaces.first) : nullptr;
+}
+
+RmSurface* RmSurfacesGetLast(const RmSurfaceGroup* group) {
+  return group ? static_cast<RmSurface*>(group->Surfaces.last) : nullptr;
+}
+
+RmSurface* RmSurfaceGetNext(const RmSurface* surface) { return surface ? surface->Next : nullptr; }
+
+RmSurface* RmSurfaceGetPrev(const RmSurface* surface) { return surface ? surface->Prev : nullptr; }
+
+RmSurface* RmSurfaceFind(const RmSurfaceGroup* group, int32_t number) {
+  for (RmSurface* surface = RmSurfacesGetFirst(group); surface; surface = surface->Next) {
+    if (surface->Number == number) return surface;
+  }
+  return nullptr;
+}
+
+RmSurface* RmSurfaceAdd(RmSurfaceGroup* group, int32_t number) {
+  if (!group) return nullptr;
+  RmSurface* before = RmSurfacesGetFirst(group);
+  while (before && before->Number <= number) before = before->Next;
+  auto* surface = DLinkNewObjAs<RmSurface>(&group->Surfaces, before);
+  if (!surface) return nullptr;
+  DLinkInit(&surface->Rows, sizeof(RmSurfaceRow), nullptr);
+  surface->Number = number;
+  return surface;
+}
+
+void vRmSurfaceCopy(RmSurface* to, const RmSurface* from) {
+  if (!to || !from || to == from) return;
+  vDLinkClear(&to->Rows);
+  DLinkCopy(&from->Rows, &to->Rows, nullptr);
+  vRmSurfaceSetDescr(to, from->Descr);
+  to->Number = from->Number;
+  to->SecondNumber = from->SecondNumber;
+}
+
+void vRmSurfaceDelete(RmSurfaceGroup* group, RmSurface* surface) {
+  if (!group || !surface) return;
+  vFreeSurface(surface);
+  vDLinkDeleteObj(&group->Surfaces, surface);
+}
+
+void vRmSurfaceClearRows(RmSurface* surface) {
+  if (surface) vDLinkClear(&surface->Rows);
+}
+
+void vRmSurfacesClear(RmSurfaceGroup* group) {
+  if (!group) return;
+  for (RmSurface* surface = RmSurfacesGetFirst(group); surface; surface = surface->Next) {
+    vFreeSurface(surface);
+  }
+  vDLinkClear(&group->Surfaces);
+}
+
+void vRmSurfaceSetDescr(RmSurface* surface, const char* descr) {
+  if (!surface) return;
+  if (descr && *descr) {
+    sHeapSet(&surface->Descr, descr);
+  } else {
+    vHeapFree(&surface->Descr);
+  }
+}
+
+RmSurface* RmSurfaceGetOutward(const RmSurface* surface, int side) {
+  if (!surface) return nullptr;
+  if (side == 1) return surface->Prev;
+  if (side == 2) return surface->Next;
+  return nullptr;
+}
+
+RmSurface* RmSurfaceGetInward(const RmSurface* surface, int side) {
+  if (!surface) return nullptr;
+  if (side == 1) return surface->Next;
+  if (side == 2) return surface->Prev;
+  return nullptr;
+}
+
+RmSurface* RmSurfaceGetSideStart(const RmSurfaceGroup* group, int side) {
+  if (side == 1) {
+    // The last surface that is not right of the centre.
+    for (RmSurface* surface = RmSurfacesGetFirst(group); surface; surface = surface->Next) {
+      if (surface->Number > 0) return surface->Prev;
+    }
+    RmSurface* last = RmSurfacesGetLast(group);
+    return last && last->Number < 1 ? last : nullptr;
+  }
+  // The first surface that is not left of the centre.
+  for (RmSurface* surface = RmSurfacesGetLast(group); surface; surface = surface->Prev) {
+    if (surface->Number < 0) return surface->Next;
+  }
+  RmSurface* first = RmSurfacesGetFirst(group);
+  return first && first->Number >= 0 ? first : nullptr;
+}
+
+RmSurface* RmSurfaceFindFromSide(const RmSurfaceGroup* group, int32_t number, int side) {
+  for (RmSurface* surface = RmSurfaceGetSideStart(group, side); surface;
+       surface = RmSurfaceGetOutward(surface, side)) {
+    if (side == 2 ? surface->Number >= number : surface->Number <= number) return surface;
+  }
+  return nullptr;
+}
+
+// ---- Rows ----
+
+RmSurfaceRow* RmSurfaceRowsGetFirst(const RmSurface* surface) {
+  return surface ? static_cast<RmSurfaceRow*>(surface->Rows.first) : nullptr;
+}
+
+RmSurfaceRow* RmSurfaceRowsGetLast(const RmSurface* surface) {
+  return surface ? static_cast<RmSurfaceRow*>(surface->Rows.last) : nullptr;
+}
+
+RmSurfaceRow* RmSurfaceRowGetNext(const RmSurfaceRow* row) { return row ? row->Next : nullptr; }
+
+RmSurfaceRow* RmSurfaceRowGetPrev(const RmSurfaceRow* row) { return row ? row->Prev : nullptr; }
+
+int iRmSurfaceRowsGetCount(const RmSurface* surface) {
+  int count = 0;
+  for (RmSurfaceRow* row = RmSurfaceRowsGetFirst(surface); row; row = row->Next) ++count;
+  return count;
+}
+
+int iRmSurfaceRowsGetIndexOf(const RmSurface* surface, const RmSurfaceRow* row) {
+  int index = 0;
+  for (RmSurfaceRow* at = RmSurfaceRowsGetFirst(surface); at; at = at->Next, ++index) {
+    if (at == row) return index;
+  }
+  return -1;
+}
+
+RmSurfaceRow* RmSurfaceRowAdd(RmSurface* surface, double chain) {
+  if (!surface) return nullptr;
+  RmSurfaceRow* before = RmSurfaceRowFindFrom(surface, chain);
+  auto* row = DLinkNewObjAs<RmSurfaceRow>(&surface->Rows, before);
+  if (row) row->Chain = chain;
+  return row;
+}
+
+RmSurfaceRow* RmSurfaceRowAddBehind(RmSurface* surface, double chain) {
+  if (!surface) return nullptr;
+  RmSurfaceRow* before = RmSurfaceRowsGetFirst(surface);
+  while (before && before->Chain <= chain) before = before->Next;
+  auto* row = DLinkNewObjAs<RmSurfaceRow>(&surface->Rows, before);
+  if (row) row->Chain = chain;
+  return row;
+}
+
+RmSurfaceRow* RmSurfaceRowAddValues(RmSurface* surface, double chain, double width,
+                                    double slope) {
+  RmSurfaceRow* row = RmSurfaceRowAdd(surface, chain);
+  if (!row) return nullptr;
+  row->RowType = 0;
+  row->Width = width;
+  row->Slope = slope;
+  return row;
+}
+
+RmSurfaceRow* RmSurfaceRowFindFrom(const RmSurface* surface, double chain) {
+  RmSurfaceRow* row = RmSurfaceRowsGetFirst(surface);
+  while (row && row->Chain < chain) row = row->Next;
+  return row;
+}
+
+RmSurfaceRow* RmSurfaceRowFindNextOfType(RmSurfaceRow* row, int rowType) {
+  while (row && row->RowType != rowType) row = row->Next;
+  return row;
+}
+
+RmSurfaceRow* RmSurfaceRowFindPrevOfTypeZero(const RmSurfaceRow* row) {
+  RmSurfaceRow* previous = row ? row->Prev : nullptr;
+  while (previous && previous->RowType != 0) previous = previous->Prev;
+  return previous;
+}
+
+bool boRmSurfaceRowHasValue(const RmSurfaceRow* row) {
+  return row && (boIsPresent(row->Width) || boIsPresent(row->Slope));
+}
+
+void vRmSurfaceRowCopy(RmSurfaceRow* to, const RmSurfaceRow* from) {
+  if (!to || !from) return;
+  to->RowType = from->RowType;
+  to->Chain = from->Chain;
+  to->Width = from->Width;
+  to->Slope = from->Slope;
+}
+
+void vRmSurfaceRowsBubbleByChain(RmSurface* surface) {
+  if (!surface) return;
+  for (bool moved = true; moved;) {
+    moved = false;
+    for (RmSurfaceRow* row = RmSurfaceRowsGetFirst(surface); row && row->Next;) {
+      RmSurfaceRow* next = row->Next;
+      if (boIsPresent(row->Chain) && boIsPresent(next->Chain) && next->Chain < row->Chain) {
+        vDLinkMove(&surface->Rows, next, row);
+        moved = true;
+      } else {
+        row = next;
+      }
+    }
+  }
+}
