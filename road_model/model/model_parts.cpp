@@ -10,6 +10,8 @@
 #include "road_model/names/annotation_types.h"
 #include "road_model/names/layer_names.h"
 #include "road_model/names/mass_types.h"
+#include "road_model/params/nrm_params.h"
+#include "road_model/params/road_class_parameters.h"
 #include "road_model/params/road_dim_params.h"
 #include "road_model/params/sect_params.h"
 #include "road_model/params/sect_triangulation_params.h"
@@ -139,6 +141,11 @@ using LSectAnnotationTypesSlot =
 using RoadDimParamsSlot = Slot<&RmModel::RoadDimParams, &RmModel::RoadDimParamsPending,
                                RmRoadDimParamsCreate, vRmRoadDimParamsDelete,
                                vRmRoadDimParamsCopy>;
+using NrmParamsSlot = Slot<&RmModel::NrmParams, &RmModel::NrmParamsPending, pNrmParamsCreate,
+                           vNrmParamsDelete, vNrmParamsCopy>;
+using RoadClassParametersSlot =
+    Slot<&RmModel::RoadClassParameters, nullptr, RmRoadClassParametersCreate,
+         vRmRoadClassParametersDelete, vRmRoadClassParametersCopy>;
 using SideBoundariesSlot = Slot<&RmModel::SideBoundaries, &RmModel::SideBoundariesPending,
                                 RmSideBoundariesCreate, vRmSideBoundariesDelete,
                                 vRmSideBoundariesCopy>;
@@ -188,6 +195,7 @@ constexpr RmModelPart kParts[] = {
     CrossSectionsSlot::Row(),
     LongSectionsSlot::Row(),
     RoadDimParamsSlot::Row(),
+    NrmParamsSlot::Row(),
     ChainDataSlot::Row(),
     SideBoundariesSlot::Row(),
     SurfaceBorderLinesSlot::Row(),
@@ -198,6 +206,7 @@ constexpr RmModelPart kParts[] = {
     // Not copied with the model: see RmModelGetBimAttributes.
     RmModelPart{nullptr, BimAttributesSlot::Release, nullptr, nullptr, vCopyNoBimAttributes,
                 false},
+    RoadClassParametersSlot::Row(),
 };
 
 }  // namespace
@@ -284,6 +293,43 @@ void vRmModelCommitRoadDimParams(RmModel* model) {
 
 void vRmModelDiscardRoadDimParams(RmModel* model) {
   if (model) RoadDimParamsSlot::DiscardPending(model);
+}
+
+RmNrmParams* RmModelGetNrmParams(const RmModel* model) {
+  return model ? model->NrmParams : nullptr;
+}
+
+void vRmModelSetNrmParams(RmModel* model, RmNrmParams* params) {
+  if (model) NrmParamsSlot::Replace(&model->NrmParams, params);
+}
+
+RmNrmParams* RmModelGetNrmParamsPending(const RmModel* model) {
+  return model ? model->NrmParamsPending : nullptr;
+}
+
+RmNrmParams* RmModelGetNrmParamsEffective(const RmModel* model) {
+  if (!model) return nullptr;
+  return model->NrmParamsPending ? model->NrmParamsPending : model->NrmParams;
+}
+
+RmNrmParams* RmModelPrepareNrmParams(RmModel* model) {
+  return model ? NrmParamsSlot::Prepare(model) : nullptr;
+}
+
+void vRmModelCommitNrmParams(RmModel* model) {
+  if (model) NrmParamsSlot::Commit(model);
+}
+
+void vRmModelDiscardNrmParams(RmModel* model) {
+  if (model) NrmParamsSlot::DiscardPending(model);
+}
+
+RmRoadClassParameters* RmModelGetRoadClassParameters(const RmModel* model) {
+  return model ? model->RoadClassParameters : nullptr;
+}
+
+void vRmModelSetRoadClassParameters(RmModel* model, RmRoadClassParameters* params) {
+  if (model) RoadClassParametersSlot::Replace(&model->RoadClassParameters, params);
 }
 
 // ---- The side tables of the root ----

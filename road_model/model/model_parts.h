@@ -12,6 +12,8 @@ struct RmHyperlinks;
 struct RmLayerNames;
 struct RmMassTypes;
 struct RmModel;
+struct RmNrmParams;
+struct RmRoadClassParameters;
 struct RmRoadDimParams;
 struct RmSectParams;
 struct RmSectTriangulationParams;
@@ -80,6 +82,20 @@ RmRoadDimParams* RmModelGetRoadDimParamsEffective(const RmModel* model);
 RmRoadDimParams* RmModelPrepareRoadDimParams(RmModel* model);
 void vRmModelCommitRoadDimParams(RmModel* model);
 void vRmModelDiscardRoadDimParams(RmModel* model);
+
+// The parameters along the road (NRMPARAMS) and the road class
+// (ROADCLASSPARAMETERS), which has no pending form.
+
+RmNrmParams* RmModelGetNrmParams(const RmModel* model);
+void vRmModelSetNrmParams(RmModel* model, RmNrmParams* params);
+RmNrmParams* RmModelGetNrmParamsPending(const RmModel* model);
+RmNrmParams* RmModelGetNrmParamsEffective(const RmModel* model);
+RmNrmParams* RmModelPrepareNrmParams(RmModel* model);
+void vRmModelCommitNrmParams(RmModel* model);
+void vRmModelDiscardNrmParams(RmModel* model);
+
+RmRoadClassParameters* RmModelGetRoadClassParameters(const RmModel* model);
+void vRmModelSetRoadClassParameters(RmModel* model, RmRoadClassParameters* params);
 
 // The side boundaries (SIDEBOUNDARIES) and the surface border lines
 // (SURFACEBORDERLINES) of the model; a surface group has border lines of its

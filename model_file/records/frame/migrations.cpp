@@ -7,6 +7,7 @@
 #include "road_model/model/model_lines.h"
 #include "road_model/model/model_parts.h"
 #include "road_model/names/annotation_types.h"
+#include "road_model/params/nrm_conversion.h"
 #include "road_model/sections/section_placing.h"
 #include "road_model/sections/section_set.h"
 
@@ -65,6 +66,12 @@ void vNameAnnotatedLines(RmModel* model) {
   vRmAnnotationTypesNameLines(RmModelGetLSectAnnotationTypes(model));
 }
 
+// The parameters along the road of such files, each step for its
+// versions (road_model/params/nrm_conversion.h).
+void vConvertOldNrmCodes(RmModel* model) { vNrmParamsConvertOldCodes(RmModelGetNrmParams(model)); }
+void vChangeOldNrmSigns(RmModel* model) { vNrmParamsChangeOldSigns(RmModelGetNrmParams(model)); }
+void vSplitOldNrmParams(RmModel* model) { vNrmParamsSplitOldParams(RmModelGetNrmParams(model)); }
+
 constexpr Migration kMigrations[] = {
     // Version 0 alone (a file without the key): a negative version is no
     // version 0. Needs every table that holds PCODEs: the section sets.
@@ -74,6 +81,11 @@ constexpr Migration kMigrations[] = {
     // Needs the plan lines (the centre line), SECTPARAMS and the cross
     // sections.
     {INT_MIN, 3, vPlaceUnplacedSections},
+    // The next three need the parameters along the road, and run in this
+    // order: the old codes, then the signs of the new ones, then the split.
+    {INT_MIN, 3, vConvertOldNrmCodes},
+    {INT_MIN, 4, vChangeOldNrmSigns},
+    {INT_MIN, 8, vSplitOldNrmParams},
     // Needs both lists of annotation types.
     {INT_MIN, 12, vNameAnnotatedLines},
 };

@@ -5,6 +5,7 @@
 #include "model_file/records/head/chain_data_record.h"
 #include "model_file/records/head/hyperlinks_record.h"
 #include "model_file/records/head/mass_calc_record.h"
+#include "model_file/records/head/nrm_params_record.h"
 #include "model_file/records/head/road_dim_params_record.h"
 #include "model_file/records/head/sect_params_record.h"
 #include "model_file/records/head/sect_triangulation_params_record.h"
@@ -12,6 +13,7 @@
 #include "model_file/records/lines/diff_altitudes_record.h"
 #include "model_file/records/lines/plan_lines_record.h"
 #include "model_file/records/lines/ver_line_record.h"
+#include "model_file/records/road_class/road_class_parameters_record.h"
 #include "model_file/records/sections/section_mass_lines_record.h"
 #include "model_file/records/sections/section_sets_record.h"
 #include "model_file/records/tunnel/ditch_param_data_record.h"
@@ -40,6 +42,8 @@ constexpr const RmRecordFamily* kWriteOrder[] = {
     &kRmLongSectionsFamily,
     &kRmLongMassLinesFamily,
     &kRmRoadDimParamsFamily,
+    &kRmRoadClassParametersFamily,
+    &kRmNrmParamsFamily,
     &kRmMassCalcFamily,
     &kRmChainDataFamily,
     &kRmLayerNamesFamily,
@@ -73,7 +77,11 @@ constexpr const RmRecordFamily* kReadOrder[] = {
     &kRmCrossMassLinesFamily,
     &kRmLongSectionsFamily,
     &kRmLongMassLinesFamily,
+    // ROADDIMPARAMS inherits the class version of the road class read
+    // before it.
+    &kRmRoadClassParametersFamily,
     &kRmRoadDimParamsFamily,
+    &kRmNrmParamsFamily,
     &kRmMassCalcFamily,
     &kRmChainDataFamily,
     // The vocabulary needs nothing read before it; the annotation types of

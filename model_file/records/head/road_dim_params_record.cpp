@@ -6,6 +6,7 @@
 #include "model_file/records/frame/record_line.h"
 #include "road_model/model/model.h"
 #include "road_model/model/model_parts.h"
+#include "road_model/params/road_class_parameters.h"
 #include "road_model/params/road_dim_params.h"
 
 namespace {
@@ -55,6 +56,10 @@ void vWrite(AsfFile* file, AsfSection* section, const RmModel* model, const RmRe
 void vRead(AsfFile* file, AsfSection* section, RmModel* model, const RmRecordFamily&) {
   RmRoadDimParams* params = RmRoadDimParamsCreate();
   if (!params) return;
+  // A file without CLASSVERSION has the version of the model's road class.
+  if (const RmRoadClassParameters* roadClass = RmModelGetRoadClassParameters(model)) {
+    params->ClassVersion = roadClass->classVersion;
+  }
   for (RecordLine line; boRecordNextLine(file, section, &line);) {
     const char* keyword = line.Token;
     if (boIs(keyword, kSpeed)) {
