@@ -4,6 +4,7 @@
 
 #include "model_file/container/asf_file.h"
 #include "model_file/container/asf_sections.h"
+#include "model_file/container/asf_writer.h"
 #include "road_model/bim/bim_attributes.h"
 #include "road_model/codes/layer_id.h"
 #include "road_model/model/model.h"
@@ -39,8 +40,10 @@ void vPrepareData(AsfFile*, AsfSection*, const RmModel* model, const RmRecordFam
   }
 }
 
-// The bodies hold no records.
-void vWriteNothing(AsfFile*, AsfSection*, const RmModel*, const RmRecordFamily&) {}
+// The bodies hold no records: each is its head alone.
+void vWriteEmptyBody(AsfFile* file, AsfSection* section, const RmModel*, const RmRecordFamily&) {
+  boAsfSectionStart(file, section);
+}
 
 void vReadData(AsfFile* file, AsfSection*, RmModel* model, const RmRecordFamily&) {
   const RmBimAttributes* store = RmModelGetBimAttributes(model);
@@ -62,7 +65,7 @@ const RmRecordFamily kRmBimAttributesDataFamily = {
     .Letter = 'O',
     .HasContent = boHasData,
     .Prepare = vPrepareData,
-    .Write = vWriteNothing,
+    .Write = vWriteEmptyBody,
     .Read = vReadData,
 };
 
@@ -70,5 +73,5 @@ const RmRecordFamily kRmBimAttributesSchemaFamily = {
     .Keyword = "BIM_ATTRIBUTES_SCHEMA",
     .Letter = 'O',
     .HasContent = boHasSchema,
-    .Write = vWriteNothing,
+    .Write = vWriteEmptyBody,
 };

@@ -1,7 +1,7 @@
-// Copy and paste of tunnel data and tunnel blocks: a copy puts a container
-// of file type "sfi" with the one section (TUNNELDATA or TUNNELBLOCKS) on
-// the clipboard, in the records of the model file; a paste reads it back
-// with that section's reader.
+// Copy and paste of tunnel data and of tunnel blocks on their own, apart
+// from a model: a copy puts a container of file type "sfi" with the one
+// section (TUNNELDATA or TUNNELBLOCKS) on the clipboard, in the records of
+// the model file; a paste reads it back with that section's reader.
 #pragma once
 
 struct RmTunnelBlocks;
