@@ -16,6 +16,9 @@
 #include "model_file/records/road_class/road_class_parameters_record.h"
 #include "model_file/records/sections/section_mass_lines_record.h"
 #include "model_file/records/sections/section_sets_record.h"
+#include "model_file/records/tables/erosion_protections_record.h"
+#include "model_file/records/tables/special_gradings_record.h"
+#include "model_file/records/tables/vips_special_gradings_record.h"
 #include "model_file/records/tunnel/ditch_param_data_record.h"
 #include "model_file/records/tunnel/tunnel_block_inserts_record.h"
 #include "model_file/records/tunnel/tunnel_blocks_record.h"
@@ -58,6 +61,9 @@ constexpr const RmRecordFamily* kWriteOrder[] = {
     &kRmTunnelBlockInsertsFamily,
     &kRmTunnelParamDataFamily,
     &kRmDitchParamDataFamily,
+    &kRmErosionProtectionsFamily,
+    &kRmSpecialGradingsFamily,
+    &kRmVipsSpecialGradingsFamily,
 };
 
 // The order of reading states what a reader needs of those before it.
@@ -94,6 +100,9 @@ constexpr const RmRecordFamily* kReadOrder[] = {
     &kRmLongMassTypesFamily,
     &kRmCrossAnnotationTypesFamily,
     &kRmLongAnnotationTypesFamily,
+    &kRmErosionProtectionsFamily,
+    &kRmSpecialGradingsFamily,
+    &kRmVipsSpecialGradingsFamily,
     // The blocks and their inserts go into the blocks object that every
     // model has; the schema of BIM attributes is not read.
     &kRmTunnelDataFamily,
