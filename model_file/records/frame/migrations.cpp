@@ -72,6 +72,21 @@ void vConvertOldNrmCodes(RmModel* model) { vNrmParamsConvertOldCodes(RmModelGetN
 void vChangeOldNrmSigns(RmModel* model) { vNrmParamsChangeOldSigns(RmModelGetNrmParams(model)); }
 void vSplitOldNrmParams(RmModel* model) { vNrmParamsSplitOldParams(RmModelGetNrmParams(model)); }
 
+// Three steps that the history names for older files are not taken here,
+// by choice:
+// - Version 8 and older with CALCMODE 1: the vertical lines that the old
+//   mass calculation completed for lines without one, and the side
+//   boundaries it derived from the parameters along the road. The file
+//   says neither from what heights nor from which parameter codes; a
+//   vertical line or a boundary made up here would be geometry that no
+//   design holds. A user of such a file keeps the lines, the parameters and
+//   the side boundaries that the file holds, as the file holds them.
+// - Version 9 and older: layer references of the tables. Every table reads
+//   a reference in the file form of a layer id (type + 10 * number), the
+//   form in which the sections of the same file name their own layers, so
+//   a reference finds the layer that carries its number in that file; the
+//   references are kept as read.
+
 constexpr Migration kMigrations[] = {
     // Version 0 alone (a file without the key): a negative version is no
     // version 0. Needs every table that holds PCODEs: the section sets.
