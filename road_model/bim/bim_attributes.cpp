@@ -18,7 +18,7 @@ bool boRmBimLayerHasData(const RmBimAttributes* store, int32_t layer) {
 bool boRmBimHasSchema(const RmBimAttributes* store) { return store && !store->Schema.empty(); }
 
 kvr::bim::BimAttributesDataSerializer& RmBimSerializerAt(const RmBimAttributes& store,
-                                                          uint32_t key) {
+                                                         uint32_t key) {
   auto found = store.Serializers.find(key);
   if (found == store.Serializers.end() || !found->second) {
     throw std::out_of_range("invalid map<K, T> key");

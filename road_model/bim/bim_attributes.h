@@ -34,4 +34,4 @@ bool boRmBimHasSchema(const RmBimAttributes* store);
 // The serializer of `key`. A missing key throws std::out_of_range with
 // "invalid map<K, T> key".
 kvr::bim::BimAttributesDataSerializer& RmBimSerializerAt(const RmBimAttributes& store,
-                                                          uint32_t key);
+                                                         uint32_t key);

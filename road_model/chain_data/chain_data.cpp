@@ -21,9 +21,7 @@ int32_t iRowSize(int fieldCount) {
 }
 
 char* pFields(RmChainDataRow* row) { return reinterpret_cast<char*>(row + 1); }
-const char* pFields(const RmChainDataRow* row) {
-  return reinterpret_cast<const char*>(row + 1);
-}
+const char* pFields(const RmChainDataRow* row) { return reinterpret_cast<const char*>(row + 1); }
 
 bool boFieldInRange(const RmChainDataLine* line, int index) {
   return index >= 0 && (!line || index < line->FieldCount);
@@ -181,9 +179,7 @@ void vRmChainDataRowPoint(const RmChainData* data, const RmChainDataRow* row, do
   xyz[2] = row ? row->Z : 0.0;
 }
 
-bool boRmChainDataRowIsVisible(const RmChainDataRow* row) {
-  return row && row->Code[0] != '#';
-}
+bool boRmChainDataRowIsVisible(const RmChainDataRow* row) { return row && row->Code[0] != '#'; }
 
 RmChainDataRow* RmChainDataRowNextVisible(const RmChainDataRow* row) {
   RmChainDataRow* next = row ? row->Next : nullptr;
@@ -197,8 +193,7 @@ RmChainDataRow* RmChainDataRowPrevVisible(const RmChainDataRow* row) {
   return prev;
 }
 
-void vRmChainDataRowOffsetVector(double* dx, double* dy, const RmChainDataRow* row,
-                                 double dist) {
+void vRmChainDataRowOffsetVector(double* dx, double* dy, const RmChainDataRow* row, double dist) {
   *dx = 0.0;
   *dy = 0.0;
   if (!boRmChainDataRowIsVisible(row)) return;

@@ -112,5 +112,4 @@ RmChainDataRow* RmChainDataRowPrevVisible(const RmChainDataRow* row);
 
 // The plan shift that moves the row `dist` to the side of the polyline
 // through the visible rows, mitred at the row. A hidden row gives (0, 0).
-void vRmChainDataRowOffsetVector(double* dx, double* dy, const RmChainDataRow* row,
-                                 double dist);
+void vRmChainDataRowOffsetVector(double* dx, double* dy, const RmChainDataRow* row, double dist);

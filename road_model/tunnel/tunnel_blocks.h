@@ -40,5 +40,4 @@ RmTunnelBlock* RmTunnelBlockAdd(RmTunnelBlocks* blocks, const char* name);
 bool boRmTunnelBlocksHaveData(const RmTunnelBlocks* blocks);
 
 void vRmTunnelBlockInsertsClear(RmTunnelBlocks* blocks);
-RmTunnelBlockInsert* RmTunnelBlockInsertAdd(RmTunnelBlocks* blocks, double chain,
-                                            const char* name);
+RmTunnelBlockInsert* RmTunnelBlockInsertAdd(RmTunnelBlocks* blocks, double chain, const char* name);

@@ -94,8 +94,7 @@ RmTunnelSection* RmTunnelSectionAdd(RmTunnelData* data, double chain, const char
   return section;
 }
 
-RmTunnelRotation* RmTunnelRotationAdd(RmTunnelData* data, double chain, int method,
-                                      double value) {
+RmTunnelRotation* RmTunnelRotationAdd(RmTunnelData* data, double chain, int method, double value) {
   if (!data) return nullptr;
   auto* rotation = SLinkNewObjAs<RmTunnelRotation>(&data->Rotations);
   if (!rotation) return nullptr;

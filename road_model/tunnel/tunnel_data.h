@@ -86,8 +86,7 @@ bool boRmTunnelDataHasRows(const RmTunnelData* data);
 
 // Each adds at the end and returns the new entry; null when memory ran out.
 RmTunnelSection* RmTunnelSectionAdd(RmTunnelData* data, double chain, const char* name);
-RmTunnelRotation* RmTunnelRotationAdd(RmTunnelData* data, double chain, int method,
-                                      double value);
+RmTunnelRotation* RmTunnelRotationAdd(RmTunnelData* data, double chain, int method, double value);
 RmTunnelPackage* RmTunnelPackageAdd(RmTunnelData* data, const char* name);
 // The package's standard, made zeroed when it has none.
 RmTunnelStandard* RmTunnelPackageMakeStandard(RmTunnelPackage* package);

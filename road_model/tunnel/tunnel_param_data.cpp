@@ -6,8 +6,7 @@ namespace {
 
 void vClear(RmTunnelParamData* data) {
   for (auto* layer = ListFirst<RmTunnelParamLayer>(&data->Layers); layer; layer = layer->Next) {
-    for (auto* range = ListFirst<RmTunnelParamRange>(&layer->Ranges); range;
-         range = range->Next) {
+    for (auto* range = ListFirst<RmTunnelParamRange>(&layer->Ranges); range; range = range->Next) {
       std::free(range->Info);
     }
     vSLinkClear(&layer->Ranges);
@@ -36,8 +35,7 @@ void vRmTunnelParamDataCopy(RmTunnelParamData* to, const RmTunnelParamData* from
   for (auto* layer = ListFirst<RmTunnelParamLayer>(&from->Layers); layer; layer = layer->Next) {
     RmTunnelParamLayer* layerCopy = RmTunnelParamLayerAdd(to, layer->LayerId);
     if (!layerCopy) return;
-    for (auto* range = ListFirst<RmTunnelParamRange>(&layer->Ranges); range;
-         range = range->Next) {
+    for (auto* range = ListFirst<RmTunnelParamRange>(&layer->Ranges); range; range = range->Next) {
       RmTunnelParamRange* copy = RmTunnelParamRangeAdd(layerCopy, range->FromChain, range->ToChain);
       if (!copy) return;
       RmTunnelParamRange* next = copy->Next;

@@ -55,9 +55,7 @@ constexpr RmKeywordLine<RmDitchOffsetCl> kOffsetLines[] = {
     {.Keyword = "OFFSETCL_TYPE", .Format = "%d", .Integer = &RmDitchOffsetCl::Type},
     {.Keyword = "OFFSETCL_PIPETYPE", .Format = "%d", .Integer = &RmDitchOffsetCl::PipeType},
     {.Keyword = "OFFSETCL_EXTRALINEID", .Format = "%d", .Integer = &RmDitchOffsetCl::ExtraLineId},
-    {.Keyword = "OFFSETCL_EXPANDLENGTH",
-     .Format = "%.4f",
-     .Real = &RmDitchOffsetCl::ExpandLength},
+    {.Keyword = "OFFSETCL_EXPANDLENGTH", .Format = "%.4f", .Real = &RmDitchOffsetCl::ExpandLength},
     {.Keyword = "OFFSETCL_ADJUST_WIDTHSLOPE",
      .Format = "%d",
      .Integer = &RmDitchOffsetCl::AdjustWidthSlope},
@@ -88,16 +86,14 @@ void vWrite(AsfFile* file, AsfSection* section, const RmModel* model, const RmRe
   if (ditch->HasOffsetCl) {
     vRmKeywordLinesWrite<RmDitchOffsetCl>(file, section, ditch->OffsetCl, kOffsetLines);
   }
-  for (auto* space = ListFirst<RmDitchPipeSpace>(&ditch->PipeSpaces); space;
-       space = space->Next) {
-    boRecordWrite(file, section, "%s %.4f %.4f", kSpaceForPipe, space->LeftWall,
-                  space->RightWall);
+  for (auto* space = ListFirst<RmDitchPipeSpace>(&ditch->PipeSpaces); space; space = space->Next) {
+    boRecordWrite(file, section, "%s %.4f %.4f", kSpaceForPipe, space->LeftWall, space->RightWall);
   }
   boRecordWrite(file, section, "%s %d", kSpaceRefLine, ditch->SpaceRefLine);
   for (auto* foundation = ListFirst<RmDitchPipeFoundation>(&ditch->PipeFoundations); foundation;
        foundation = foundation->Next) {
-    boRecordWrite(file, section, "%s %.4f %.4f %.4f", kFoundationForPipe,
-                  foundation->Values[0], foundation->Values[1], foundation->Values[2]);
+    boRecordWrite(file, section, "%s %.4f %.4f %.4f", kFoundationForPipe, foundation->Values[0],
+                  foundation->Values[1], foundation->Values[2]);
   }
 }
 
@@ -106,8 +102,7 @@ void vWrite(AsfFile* file, AsfSection* section, const RmModel* model, const RmRe
 void vReadOldWall(RecordLine* line, Ditch* ditch, bool left) {
   double value = dRecordNumber(line);
   if (!ditch->PipeSpaces.first) RmDitchPipeSpaceAdd(ditch, 0.0, 0.0);
-  for (auto* space = ListFirst<RmDitchPipeSpace>(&ditch->PipeSpaces); space;
-       space = space->Next) {
+  for (auto* space = ListFirst<RmDitchPipeSpace>(&ditch->PipeSpaces); space; space = space->Next) {
     (left ? space->LeftWall : space->RightWall) = value;
   }
 }

@@ -77,8 +77,7 @@ void vWritePackage(AsfFile* file, AsfSection* section, const RmTunnelPackage* pa
   if (const RmTunnelStandard* standard = package->Standard) {
     boRecordWrite(file, section, "%s", kStandard);
     if (standard->Descr[0]) {
-      boRecordWrite(file, section, "%s %s", kDescr,
-                    sQuote(quoted, sizeof quoted, standard->Descr));
+      boRecordWrite(file, section, "%s %s", kDescr, sQuote(quoted, sizeof quoted, standard->Descr));
     }
     vRmKeywordLinesWrite<RmTunnelStandard>(file, section, *standard, kStandardLines);
     boRecordWrite(file, section, "%s %d %d", kVerticalSide, standard->VerticalLeft,
@@ -147,10 +146,9 @@ void vRmTunnelDataWrite(AsfFile* file, AsfSection* section, const RmTunnelData* 
     boRecordWrite(file, section, "%s %.4f %s", kSection, entry->Chain,
                   sQuote(quoted, sizeof quoted, entry->Name));
   }
-  for (auto* entry = ListFirst<RmTunnelRotation>(&data->Rotations); entry;
-       entry = entry->Next) {
-    boRecordWrite(file, section, "%s %.4f %ld %.4f", kRotation, entry->Chain,
-                  long{entry->Method}, entry->Value);
+  for (auto* entry = ListFirst<RmTunnelRotation>(&data->Rotations); entry; entry = entry->Next) {
+    boRecordWrite(file, section, "%s %.4f %ld %.4f", kRotation, entry->Chain, long{entry->Method},
+                  entry->Value);
   }
   for (auto* package = ListFirst<RmTunnelPackage>(&data->Packages); package;
        package = package->Next) {

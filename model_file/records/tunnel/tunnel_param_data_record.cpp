@@ -63,7 +63,9 @@ constexpr CodePair kInfoPairs[] = {
 
 // The profile's last values, behind its pairs.
 constexpr RmKeywordLine<Info> kInfoEndLines[] = {
-    {.Keyword = "NEUTRALCONTRACTIONPOINT", .Format = "%d", .Integer = &Info::NeutralContractionPoint},
+    {.Keyword = "NEUTRALCONTRACTIONPOINT",
+     .Format = "%d",
+     .Integer = &Info::NeutralContractionPoint},
     {.Keyword = "BASELINEROADPOINT", .Format = "%d", .Integer = &Info::BaselineRoadPoint},
 };
 
@@ -101,8 +103,7 @@ void vWrite(AsfFile* file, AsfSection* section, const RmModel* model, const RmRe
   const RmTunnelParamData* data = RmModelGetTunnelParamData(model);
   for (auto* layer = ListFirst<RmTunnelParamLayer>(&data->Layers); layer; layer = layer->Next) {
     boRecordWrite(file, section, "%s %u", kLayers, layer->LayerId);
-    for (auto* range = ListFirst<RmTunnelParamRange>(&layer->Ranges); range;
-         range = range->Next) {
+    for (auto* range = ListFirst<RmTunnelParamRange>(&layer->Ranges); range; range = range->Next) {
       vWriteRange(file, section, range);
     }
   }

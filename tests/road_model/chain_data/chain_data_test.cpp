@@ -1,13 +1,16 @@
 // Chain data lines and rows: the row kind keys, the fields of a row, the
 // offsets in exact 3D mode, the walk over visible rows and the mitred offset
 // at a row.
+#include "road_model/chain_data/chain_data.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <cstring>
 #include <string>
 
-#include "road_model/chain_data/chain_data.h"
+#include "road_model/chain_data/chain_data_heights.h"
+#include "road_model/chain_data/chain_data_types.h"
 
 namespace {
 
@@ -127,4 +130,29 @@ TEST(ChainData, ATurnBackMovesBackByTheDistance) {
   vRmChainDataRowOffsetVector(&dx, &dy, turn, 2.0);
   EXPECT_NEAR(dx, -2.0, 1e-12);
   EXPECT_NEAR(dy, -2.0, 1e-12);
+}
+
+TEST(ChainData, HeightRangeCountsFieldsOfRailsAndSkipsMarks) {
+  ChainDataPtr data(RmChainDataCreate());
+  RmChainDataTypes types;
+  types.Types = {RmChainDataTypeDefaults(101), RmChainDataTypeDefaults(119)};
+  RmChainDataLine* rail = RmChainDataLineAdd(data.get(), nullptr, 101, 2);
+  RmChainDataLine* mark = RmChainDataLineAdd(data.get(), nullptr, 119, 0);
+  RmChainDataRow* row = AddRow(rail, 0.0, 0.0);
+  row->Chain = 10.0;
+  row->Z = 5.0;
+  vRmChainDataRowSetField(rail, row, 0, "6.5");
+  vRmChainDataRowSetField(rail, row, 1, "4.25");
+  RmChainDataRow* outside = AddRow(rail, 0.0, 0.0);
+  outside->Chain = 30.0;
+  outside->Z = 100.0;
+  RmChainDataRow* skipped = AddRow(mark, 0.0, 0.0);
+  skipped->Chain = 12.0;
+  skipped->Z = -50.0;
+
+  double min = 0.0, max = 0.0;
+  ASSERT_TRUE(boRmChainDataHeightRange(&types, data.get(), RmChainRange{0.0, 20.0}, &min, &max));
+  EXPECT_DOUBLE_EQ(min, 4.25);
+  EXPECT_DOUBLE_EQ(max, 6.5);
+  EXPECT_FALSE(boRmChainDataHeightRange(&types, data.get(), RmChainRange{11.0, 20.0}, &min, &max));
 }

@@ -1,10 +1,11 @@
 // The chain data type catalogue read from a file of all four sections.
+#include "road_model/chain_data/chain_data_types_file.h"
+
 #include <gtest/gtest.h>
 
 #include <string>
 
 #include "road_model/chain_data/chain_data_types.h"
-#include "road_model/chain_data/chain_data_types_file.h"
 #include "tests/support/scratch_folder.h"
 
 namespace {

@@ -85,8 +85,7 @@ TEST(BimRecords, AReadWithAStoreHandsItEveryLayer) {
   std::string bytes = sWrittenModel(model.get());
   seen.clear();
   AsfFile* file = AsfFileOpenMem(bytes.data(), bytes.size());
-  AsfSection* section =
-      AsfSectionFind(file, "BIM_ATTRIBUTES_DATA", iAsfTypeOfLetter('O'));
+  AsfSection* section = AsfSectionFind(file, "BIM_ATTRIBUTES_DATA", iAsfTypeOfLetter('O'));
   ASSERT_NE(section, nullptr);
   kRmBimAttributesDataFamily.Read(file, section, model.get(), kRmBimAttributesDataFamily);
   vAsfFileClose(file);

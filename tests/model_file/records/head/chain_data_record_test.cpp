@@ -44,7 +44,8 @@ TEST(ChainDataRecord, LongCodesAndFieldsAreCut) {
   RmChainDataLine* line = RmChainDataLineAdd(data, nullptr, 3, 20);
   RmChainDataRow* row = RmChainDataRowAdd(line);
   std::memcpy(row->Code, "ABCDEFGHIJKL", 12);  // fills the array, no end
-  for (int i = 0; i < 20; ++i) vRmChainDataRowSetField(line, row, i, std::string(39, 'a' + i).c_str());
+  for (int i = 0; i < 20; ++i)
+    vRmChainDataRowSetField(line, row, i, std::string(39, 'a' + i).c_str());
 
   std::string body = sWrittenChainData(model.get());
   EXPECT_NE(body.find("CHAIN 0.0000 0.000 0.000 0.000 \"ABCDEFGHIJK\" 0.0000\r\n"),
@@ -55,8 +56,8 @@ TEST(ChainDataRecord, LongCodesAndFieldsAreCut) {
 }
 
 TEST(ChainDataRecord, ReadingKeepsTwelveCharacterCodesToElevenAndDefaults) {
-  ModelPtr model = ReadChainData({":CHAINDATALINE 5 3 0", "CHAIN 1 2 3 4 ABCDEFGHIJKL 5",
-                                  "FIELDS \"\" b", "EXACT3DMODE"});
+  ModelPtr model = ReadChainData(
+      {":CHAINDATALINE 5 3 0", "CHAIN 1 2 3 4 ABCDEFGHIJKL 5", "FIELDS \"\" b", "EXACT3DMODE"});
   const RmChainData* data = RmModelGetChainData(model.get());
   ASSERT_NE(data, nullptr);
   EXPECT_DOUBLE_EQ(data->MaxClDeviation, 0.05);
@@ -71,11 +72,11 @@ TEST(ChainDataRecord, ReadingKeepsTwelveCharacterCodesToElevenAndDefaults) {
 }
 
 TEST(ChainDataRecord, RecordsOutOfTheirPlaceAreDropped) {
-  ModelPtr model = ReadChainData({
-      "CHAIN 1 0 0 0 a 0",  // before any line
-      ":CHAINDATALINE 5 1 0", "OFFS 1 2 3 4 5 6",  // before any row: ends the line
-      "CHAIN 2 0 0 0 b 0",                          // so this row has no line
-      ":CHAINDATALINE 6 1 0", "CHAIN 3 0 0 0 c 0", "NONSENSE 1", "OFFS 1 2", "FIELDS x y"});
+  ModelPtr model = ReadChainData(
+      {"CHAIN 1 0 0 0 a 0",                         // before any line
+       ":CHAINDATALINE 5 1 0", "OFFS 1 2 3 4 5 6",  // before any row: ends the line
+       "CHAIN 2 0 0 0 b 0",                         // so this row has no line
+       ":CHAINDATALINE 6 1 0", "CHAIN 3 0 0 0 c 0", "NONSENSE 1", "OFFS 1 2", "FIELDS x y"});
   const RmChainData* data = RmModelGetChainData(model.get());
   const auto* first = ListFirst<RmChainDataLine>(&data->Lines);
   EXPECT_EQ(first->Rows.first, nullptr);

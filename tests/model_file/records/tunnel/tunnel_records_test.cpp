@@ -17,12 +17,13 @@
 namespace {
 
 ModelPtr ReadSection(const std::string& name, std::initializer_list<std::string> lines) {
-  return ReadModel(sModelHead({"DATAVERSION 13"}, {name}) + "[+O_" + name + "]\r\n" +
-                   sCrLf(lines) + "[END]\r\n");
+  return ReadModel(sModelHead({"DATAVERSION 13"}, {name}) + "[+O_" + name + "]\r\n" + sCrLf(lines) +
+                   "[END]\r\n");
 }
 
 ModelPtr ReadFixture() {
-  return ReadModel(sReadWholeFile(std::string(KVRVIPS_TEST_DATA_DIR) + "/records/tunnel_chain.sfi"));
+  return ReadModel(
+      sReadWholeFile(std::string(KVRVIPS_TEST_DATA_DIR) + "/records/tunnel_chain.sfi"));
 }
 
 template <typename T>
@@ -50,11 +51,11 @@ TEST(TunnelRecords, ABlocksLinesReachTheBlockNotTheModelsTunnel) {
 }
 
 TEST(TunnelRecords, LinesWithoutTheirOpenObjectArePassedOver) {
-  ModelPtr model = ReadSection("TUNNELDATA", {
-      " 1 2 3 4 5 6",                        // a row before any group
-      "TOTALWIDTH 9", "CLIPLAYER 5",         // no standard, no group
-      ":TUNNELPACKAGE P", "HANGRADIUS 3",    // a package without a standard
-      ":TUNNELSURFACES 12", "STARTTYPE 1", "STARTPCODE2", "UNKNOWN 4", " 7 1.5"});
+  ModelPtr model = ReadSection(
+      "TUNNELDATA", {" 1 2 3 4 5 6",                      // a row before any group
+                     "TOTALWIDTH 9", "CLIPLAYER 5",       // no standard, no group
+                     ":TUNNELPACKAGE P", "HANGRADIUS 3",  // a package without a standard
+                     ":TUNNELSURFACES 12", "STARTTYPE 1", "STARTPCODE2", "UNKNOWN 4", " 7 1.5"});
   const RmTunnelData* tunnel = RmModelGetTunnelData(model.get());
   ASSERT_NE(tunnel, nullptr);
   const auto* package = First<RmTunnelPackage>(tunnel->Packages);
@@ -72,10 +73,10 @@ TEST(TunnelRecords, LinesWithoutTheirOpenObjectArePassedOver) {
   // Without a tunnel section or rotation the data is not written again.
   EXPECT_EQ(sSectionBody(sWrittenModel(model.get()), "TUNNELDATA"), "<none>");
 
-  ModelPtr params = ReadSection("TUNNELPARAMDATA", {
-      ":TUNNELPARAMRANGE 1 2",  // no layer
-      ":TUNNELPARAMLAYERS 12", "TYPE 4", ":TUNNELPARAMRANGE 1 2", "FLATROOF 1",
-      ":TUNNELPARAMINFO", "FLATROOF 1", "RIGHTWALLROTATIONPCODES 5"});
+  ModelPtr params = ReadSection(
+      "TUNNELPARAMDATA", {":TUNNELPARAMRANGE 1 2",  // no layer
+                          ":TUNNELPARAMLAYERS 12", "TYPE 4", ":TUNNELPARAMRANGE 1 2", "FLATROOF 1",
+                          ":TUNNELPARAMINFO", "FLATROOF 1", "RIGHTWALLROTATIONPCODES 5"});
   const auto* layer = First<RmTunnelParamLayer>(RmModelGetTunnelParamData(params.get())->Layers);
   const auto* range = First<RmTunnelParamRange>(layer->Ranges);
   EXPECT_EQ(range->Next, nullptr);
@@ -94,9 +95,8 @@ TEST(TunnelRecords, BlocksWithoutDataAreNotWritten) {
   block->Data = RmTunnelDataCreate();
   RmTunnelBlockInsertAdd(blocks, 10.0, "Full");
   std::string file = sWrittenModel(model.get());
-  EXPECT_EQ(sSectionBody(file, "TUNNELBLOCKS"),
-            sCrLf({":TUNNELBLOCK Full", "TEMPLATECHAIN 0.0000", "INTERPOLMETHOD 0",
-                   "ROADBEDLAYERNO 0"}));
+  EXPECT_EQ(sSectionBody(file, "TUNNELBLOCKS"), sCrLf({":TUNNELBLOCK Full", "TEMPLATECHAIN 0.0000",
+                                                       "INTERPOLMETHOD 0", "ROADBEDLAYERNO 0"}));
   EXPECT_EQ(sSectionBody(file, "TUNNELBLOCKINSERTS"), sCrLf({":BLOCKINSERT 10.0000 Full"}));
 }
 
@@ -116,9 +116,9 @@ TEST(DitchRecords, TheRockBackfillFollowsTheBackfillUnlessItDiffers) {
 }
 
 TEST(DitchRecords, OlderFilesFillTheTablesFromSingleValues) {
-  ModelPtr model = ReadSection("DITCHPARAMDATA",
-                               {":DITCHPARAMS", "DISTLEFTWALL 0.3", "DISTRIGHTWALL 0.4",
-                                "THICKNESSFOUNDATION 0.15", "OFFSETCL_PIPETYPE 2"});
+  ModelPtr model =
+      ReadSection("DITCHPARAMDATA", {":DITCHPARAMS", "DISTLEFTWALL 0.3", "DISTRIGHTWALL 0.4",
+                                     "THICKNESSFOUNDATION 0.15", "OFFSETCL_PIPETYPE 2"});
   const RmDitchParamData* ditch = RmModelGetDitchParamData(model.get());
   const auto* space = First<RmDitchPipeSpace>(ditch->PipeSpaces);
   ASSERT_NE(space, nullptr);
