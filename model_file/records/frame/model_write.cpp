@@ -11,6 +11,27 @@
 
 namespace {
 
+// A section of one object, added behind its family's own section.
+struct AddedObjectSection {
+  AsfSection* Section;
+  RmObjectSection Source;
+};
+
+std::vector<AddedObjectSection> AddObjectSections(AsfFile* file, const RmModel* model,
+                                                  const RmRecordFamily& family) {
+  std::vector<AddedObjectSection> added;
+  if (!family.ObjectSections) return added;
+  std::vector<RmObjectSection> sources;
+  family.ObjectSections(model, &sources);
+  for (const RmObjectSection& source : sources) {
+    AsfSection* section = AsfSectionAdd(file, source.Name, iAsfTypeOfLetter(source.Letter));
+    if (!section) continue;
+    if (source.Prepare) source.Prepare(file, section, source.Object);
+    added.push_back({section, source});
+  }
+  return added;
+}
+
 void vSetHeadKeys(AsfFile* file, const RmModel* model) {
   char version[16];
   std::snprintf(version, sizeof version, "%d", kRmDataVersion);
@@ -28,15 +49,20 @@ bool boRmModelWriteFile(AsfFile* file, const RmModel* model) {
 
   std::span<const RmRecordFamily* const> families = RmRecordFamiliesInWriteOrder();
   std::vector<AsfSection*> sections(families.size(), nullptr);
+  std::vector<std::vector<AddedObjectSection>> objectSections(families.size());
   for (size_t i = 0; i < families.size(); ++i) {
     const RmRecordFamily& family = *families[i];
     if (!family.Write || (family.HasContent && !family.HasContent(model, family))) continue;
     sections[i] = AsfSectionAdd(file, family.Keyword, iAsfTypeOfLetter(family.Letter));
     if (family.Prepare) family.Prepare(file, sections[i], model, family);
+    objectSections[i] = AddObjectSections(file, model, family);
   }
   if (!boAsfFileWriteHead(file)) return false;
   for (size_t i = 0; i < families.size(); ++i) {
     if (sections[i]) families[i]->Write(file, sections[i], model, *families[i]);
+    for (const AddedObjectSection& added : objectSections[i]) {
+      added.Source.Write(file, added.Section, added.Source.Object);
+    }
   }
   return !boAsfFileWriteFailed(file);
 }

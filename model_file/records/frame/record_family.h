@@ -8,11 +8,27 @@
 // A family that holds one of the two section sets, or a list that belongs to
 // one kind of sections (mass types, annotation types), names that kind, so
 // that one writer and one reader serve cross and long sections alike.
+//
+// A family whose table has objects with sections of their own (the plan
+// lines of each string line layer) lists them, and the frame adds them
+// behind the family's own section and writes them in that order.
 #pragma once
 
-struct AsfFile;
-struct AsfSection;
+#include <vector>
+
+#include "model_file/container/asf_file.h"
+
 struct RmModel;
+
+// A section of one object of a family's table.
+struct RmObjectSection {
+  char Name[kAsfSectionNameSize];  // cut to the container's limit
+  char Letter;                     // 'O' or 'L'
+  const void* Object;              // what the section is written from
+  // Sets the section up before the head is written; null for none.
+  void (*Prepare)(AsfFile* file, AsfSection* section, const void* object);
+  void (*Write)(AsfFile* file, AsfSection* section, const void* object);
+};
 
 // The section set of a family that holds one; kRmNoSectionSet otherwise.
 inline constexpr int kRmNoSectionSet = -1;
@@ -35,9 +51,14 @@ struct RmRecordFamily {
   void (*Write)(AsfFile* file, AsfSection* section, const RmModel* model,
                 const RmRecordFamily& family) = nullptr;
   // Reads the section into the model. Readers do not fail: what cannot be
-  // read is left out.
+  // read is left out. The reader of a family with object sections looks
+  // them up by name itself.
   void (*Read)(AsfFile* file, AsfSection* section, RmModel* model,
                const RmRecordFamily& family) = nullptr;
+  // Appends the sections of single objects that follow the family's own, in
+  // the order of the file; asked only when the family's section is written.
+  // Null for a family of one section.
+  void (*ObjectSections)(const RmModel* model, std::vector<RmObjectSection>* sections) = nullptr;
 };
 
 // The family of the other section set: the same functions under that set's
