@@ -16,8 +16,12 @@
 #include "model_file/records/road_class/road_class_parameters_record.h"
 #include "model_file/records/sections/section_mass_lines_record.h"
 #include "model_file/records/sections/section_sets_record.h"
+#include "model_file/records/tables/closed_ditches_record.h"
 #include "model_file/records/tables/erosion_protections_record.h"
+#include "model_file/records/tables/side_boundaries_record.h"
 #include "model_file/records/tables/special_gradings_record.h"
+#include "model_file/records/tables/string_lines_record.h"
+#include "model_file/records/tables/surface_border_lines_record.h"
 #include "model_file/records/tables/vips_special_gradings_record.h"
 #include "model_file/records/tunnel/ditch_param_data_record.h"
 #include "model_file/records/tunnel/tunnel_block_inserts_record.h"
@@ -61,9 +65,13 @@ constexpr const RmRecordFamily* kWriteOrder[] = {
     &kRmTunnelBlockInsertsFamily,
     &kRmTunnelParamDataFamily,
     &kRmDitchParamDataFamily,
+    &kRmSideBoundariesFamily,
+    &kRmSurfaceBorderLinesFamily,
     &kRmErosionProtectionsFamily,
     &kRmSpecialGradingsFamily,
     &kRmVipsSpecialGradingsFamily,
+    &kRmClosedDitchesFamily,
+    &kRmStringLinesFamily,
 };
 
 // The order of reading states what a reader needs of those before it.
@@ -100,6 +108,10 @@ constexpr const RmRecordFamily* kReadOrder[] = {
     &kRmLongMassTypesFamily,
     &kRmCrossAnnotationTypesFamily,
     &kRmLongAnnotationTypesFamily,
+    // The side boundaries and the surface border lines hang from the model
+    // itself.
+    &kRmSideBoundariesFamily,
+    &kRmSurfaceBorderLinesFamily,
     &kRmErosionProtectionsFamily,
     &kRmSpecialGradingsFamily,
     &kRmVipsSpecialGradingsFamily,
@@ -110,6 +122,9 @@ constexpr const RmRecordFamily* kReadOrder[] = {
     &kRmTunnelBlockInsertsFamily,
     &kRmTunnelParamDataFamily,
     &kRmDitchParamDataFamily,
+    &kRmClosedDitchesFamily,
+    // Looks up the line sections of its layers once its own is read.
+    &kRmStringLinesFamily,
 };
 
 // That each section is read exactly once is checked by the tests of the
