@@ -6,10 +6,16 @@
 
 #include "base/numbers.h"
 #include "road_model/lines/plan_lines.h"
+#include "road_model/model/model.h"
+#include "road_model/model/model_center_line.h"
+#include "road_model/model/model_lines.h"
+#include "road_model/model/model_parts.h"
+#include "road_model/surfaces/surf_gen.h"
 #include "road_model/tables/closed_ditches.h"
 #include "road_model/tables/side_boundaries.h"
 #include "road_model/tables/string_lines.h"
 #include "road_model/tables/surface_border_lines.h"
+#include "tests/support/model_ptr.h"
 #include "tests/support/owned.h"
 
 namespace {
@@ -165,4 +171,23 @@ TEST(StringLines, LayersOwnTheirLines) {
   ASSERT_NE(copied, nullptr);
   EXPECT_EQ(iRmLinesGetCount(RmStringLineGetLines(copied)), 1);
   EXPECT_EQ(RmStringLineGetLines(RmStringLineFind(copy, RmLayerIdMake(3, 12))), nullptr);
+}
+
+TEST(StringLines, CenterLineOfALayerWhenCalculatedFromStringLines) {
+  ModelPtr model = NewModel();
+  vRmModelSetLines(model.get(), RmLinesCreateDefault());
+  vRmModelSetSurfGen(model.get(), RmSurfGenCreate());
+  RmStringLines* table = RmStringLinesCreate();
+  vRmStringLineSetLines(RmStringLineAdd(table, RmLayerIdMake(1, 2)), RmLinesCreateDefault());
+  RmStringLineAdd(table, RmLayerIdMake(1, 3));
+  vRmSurfGenSet<kRmStringLinesSlot>(RmModelGetSurfGen(model.get()), table);
+  RmLine* own = RmLinesGetCenterLine(RmStringLineGetLines(RmStringLinesGetFirst(table)));
+  RmLine* plain = RmModelGetCenterLine(model.get());
+
+  model->CalcMode = 3;
+  EXPECT_EQ(RmModelGetCenterLineFor(model.get(), RmLayerIdMake(1, 2)), own);
+  EXPECT_EQ(RmModelGetCenterLineFor(model.get(), RmLayerIdMake(1, 3)), plain);  // no lines
+  EXPECT_EQ(RmModelGetCenterLineFor(model.get(), RmLayerIdMake(2, 2)), plain);  // no layer
+  model->CalcMode = 2;
+  EXPECT_EQ(RmModelGetCenterLineFor(model.get(), RmLayerIdMake(1, 2)), plain);
 }
