@@ -16,8 +16,10 @@
 #include "model_file/records/road_class/road_class_parameters_record.h"
 #include "model_file/records/sections/section_mass_lines_record.h"
 #include "model_file/records/sections/section_sets_record.h"
+#include "model_file/records/tables/chain_range_families.h"
 #include "model_file/records/tables/closed_ditches_record.h"
 #include "model_file/records/tables/erosion_protections_record.h"
+#include "model_file/records/tables/landscapings_record.h"
 #include "model_file/records/tables/side_boundaries_record.h"
 #include "model_file/records/tables/special_gradings_record.h"
 #include "model_file/records/tables/string_lines_record.h"
@@ -65,8 +67,17 @@ constexpr const RmRecordFamily* kWriteOrder[] = {
     &kRmTunnelBlockInsertsFamily,
     &kRmTunnelParamDataFamily,
     &kRmDitchParamDataFamily,
+    &kRmRockBenchesFamily,
+    &kRmMinDitchDepthsFamily,
+    &kRmLandscapingsFamily,
+    &kRmStoneExcavationSlopesFamily,
+    &kRmDeepRockBlastsFamily,
     &kRmSideBoundariesFamily,
+    &kRmFillDitchesFamily,
     &kRmSurfaceBorderLinesFamily,
+    &kRmRemovalTopsoilsFamily,
+    &kRmUnsuitableSoilsFamily,
+    &kRmSoilCutPlastersFamily,
     &kRmErosionProtectionsFamily,
     &kRmSpecialGradingsFamily,
     &kRmVipsSpecialGradingsFamily,
@@ -110,8 +121,17 @@ constexpr const RmRecordFamily* kReadOrder[] = {
     &kRmLongAnnotationTypesFamily,
     // The side boundaries and the surface border lines hang from the model
     // itself.
+    &kRmRockBenchesFamily,
+    &kRmMinDitchDepthsFamily,
+    &kRmLandscapingsFamily,
+    &kRmStoneExcavationSlopesFamily,
+    &kRmDeepRockBlastsFamily,
     &kRmSideBoundariesFamily,
+    &kRmFillDitchesFamily,
     &kRmSurfaceBorderLinesFamily,
+    &kRmRemovalTopsoilsFamily,
+    &kRmUnsuitableSoilsFamily,
+    &kRmSoilCutPlastersFamily,
     &kRmErosionProtectionsFamily,
     &kRmSpecialGradingsFamily,
     &kRmVipsSpecialGradingsFamily,
