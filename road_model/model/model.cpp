@@ -8,6 +8,7 @@
 #include "base/text.h"
 #include "road_model/model/model_parts.h"
 #include "road_model/model/model_scalars.h"
+#include "road_model/surfaces/surf_gen.h"
 
 namespace {
 
@@ -150,7 +151,9 @@ void vRmModelSetDirtySinceLoad(RmModel* model, bool flag) {
   if (model) model->DirtySinceLoad = flag ? 1 : 0;
 }
 
-bool boRmModelIsDirty(const RmModel* model) { return model && model->Dirty != 0; }
+bool boRmModelIsDirty(const RmModel* model) {
+  return model && (model->Dirty != 0 || boRmSurfGenIsChanged(model->SurfGen));
+}
 
 // ---- Identity ----
 

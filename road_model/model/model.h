@@ -145,6 +145,7 @@ void vRmModelDiscardPending(RmModel* model);
 // Sets Dirty and DirtySinceLoad to `flag` and stamps ChangeTime.
 void vRmModelSetDirty(RmModel* model, bool flag);
 void vRmModelSetDirtySinceLoad(RmModel* model, bool flag);
+// Dirty, or a table of the surface tables object was committed since.
 bool boRmModelIsDirty(const RmModel* model);
 
 // ---- Identity ----

@@ -22,6 +22,7 @@
 #include "road_model/tunnel/tunnel_blocks.h"
 #include "road_model/tunnel/tunnel_data.h"
 #include "road_model/tunnel/tunnel_param_data.h"
+#include "road_model/surfaces/surf_gen.h"
 #include "road_model/tables/side_boundaries.h"
 #include "road_model/tables/surface_border_lines.h"
 
@@ -152,6 +153,14 @@ using SideBoundariesSlot = Slot<&RmModel::SideBoundaries, &RmModel::SideBoundari
 using SurfaceBorderLinesSlot =
     Slot<&RmModel::SurfaceBorderLines, &RmModel::SurfaceBorderLinesPending,
          RmSurfaceBorderLinesCreate, vRmSurfaceBorderLinesDelete, vRmSurfaceBorderLinesCopy>;
+using SurfGenSlot = Slot<&RmModel::SurfGen, &RmModel::SurfGenPending, RmSurfGenCreate,
+                        vRmSurfGenDelete, vRmSurfGenCopy>;
+// Committing the whole tables object clears its changed mark; then the
+// pending tables inside it are committed, which marks it again.
+void vCommitSurfGenWithTables(RmModel* model) {
+  vRmModelCommitSurfGen(model);
+  vRmSurfGenCommitTables(model->SurfGen);
+}
 
 using ChainDataSlot = Slot<&RmModel::ChainData, &RmModel::ChainDataPending, RmChainDataCreate,
                            vRmChainDataDelete, vRmChainDataCopy>;
@@ -201,12 +210,14 @@ constexpr RmModelPart kParts[] = {
     SurfaceBorderLinesSlot::Row(),
     TunnelDataSlot::Row(),
     TunnelParamDataSlot::Row(),
+    RmModelPart{nullptr, SurfGenSlot::Release, SurfGenSlot::DiscardPending,
+                vCommitSurfGenWithTables, SurfGenSlot::CopySlots, false},
+    RoadClassParametersSlot::Row(),
     TunnelBlocksSlot::Row(kCreatedAtInit),
     DitchParamDataSlot::Row(),
     // Not copied with the model: see RmModelGetBimAttributes.
     RmModelPart{nullptr, BimAttributesSlot::Release, nullptr, nullptr, vCopyNoBimAttributes,
                 false},
-    RoadClassParametersSlot::Row(),
 };
 
 }  // namespace
@@ -551,6 +562,37 @@ KVRVIPS_VOCABULARY_SLOT(LSectAnnotationTypes, RmAnnotationTypes, LSectAnnotation
 RmLayerNames* RmModelGetOrCreateLayerNames(RmModel* model) {
   if (model && !model->LayerNames) vRmModelSetLayerNames(model, RmLayerNamesCreate());
   return RmModelGetLayerNames(model);
+}
+
+// ---- The surface tables object ----
+
+RmSurfGen* RmModelGetSurfGen(const RmModel* model) { return model ? model->SurfGen : nullptr; }
+
+void vRmModelSetSurfGen(RmModel* model, RmSurfGen* gen) {
+  if (model) SurfGenSlot::Replace(&model->SurfGen, gen);
+}
+
+RmSurfGen* RmModelGetSurfGenPending(const RmModel* model) {
+  return model ? model->SurfGenPending : nullptr;
+}
+
+RmSurfGen* RmModelGetSurfGenEffective(const RmModel* model) {
+  if (!model) return nullptr;
+  return model->SurfGenPending ? model->SurfGenPending : model->SurfGen;
+}
+
+RmSurfGen* RmModelPrepareSurfGen(RmModel* model) {
+  return model ? SurfGenSlot::Prepare(model) : nullptr;
+}
+
+void vRmModelCommitSurfGen(RmModel* model) {
+  if (!model || !model->SurfGenPending) return;
+  SurfGenSlot::Commit(model);
+  vRmSurfGenClearChanged(model->SurfGen);
+}
+
+void vRmModelDiscardSurfGen(RmModel* model) {
+  if (model) SurfGenSlot::DiscardPending(model);
 }
 
 // ---- Chain data, tunnel and ditch parameters, the BIM store ----

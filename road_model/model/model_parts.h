@@ -18,6 +18,7 @@ struct RmRoadDimParams;
 struct RmSectParams;
 struct RmSectTriangulationParams;
 struct RmSectionSet;
+struct RmSurfGen;
 struct RmSideBoundaries;
 struct RmSurfaceBorderLines;
 
@@ -190,6 +191,16 @@ RmAnnotationTypes* RmModelGetLSectAnnotationTypesEffective(const RmModel* model)
 RmAnnotationTypes* RmModelPrepareLSectAnnotationTypes(RmModel* model);
 void vRmModelCommitLSectAnnotationTypes(RmModel* model);
 void vRmModelDiscardLSectAnnotationTypes(RmModel* model);
+
+// The surface tables object (road_model/surfaces/surf_gen.h). A loaded
+// model always has one. Committing it clears its changed mark.
+RmSurfGen* RmModelGetSurfGen(const RmModel* model);
+void vRmModelSetSurfGen(RmModel* model, RmSurfGen* gen);
+RmSurfGen* RmModelGetSurfGenPending(const RmModel* model);
+RmSurfGen* RmModelGetSurfGenEffective(const RmModel* model);
+RmSurfGen* RmModelPrepareSurfGen(RmModel* model);
+void vRmModelCommitSurfGen(RmModel* model);
+void vRmModelDiscardSurfGen(RmModel* model);
 
 // Chain data (CHAINDATA), tunnel data (TUNNELDATA) and tunnel parameters
 // (TUNNELPARAMDATA), each with a pending form; the tunnel blocks with their

@@ -4,7 +4,9 @@
 // table in its order, the reader sets the field of each line it knows and
 // passes over the others. A keyword that the file leaves out keeps the
 // value that the object had before the read; a value missing behind its
-// keyword reads as 0, unless the line says that it keeps the value then.
+// keyword reads as 0, unless the line says that it keeps the value then or
+// names another value. A line may be written only when a rule of its own
+// holds (a value that is present, a mode that uses it).
 #pragma once
 
 #include <cstdint>
@@ -32,12 +34,17 @@ struct RmKeywordLine {
   void (*SetText)(Object* object, const char* value) = nullptr;
   // A number missing behind the keyword leaves the member as it was.
   bool KeepsValueWhenEmpty = false;
+  // The value of a keyword without a number, unless it keeps the value.
+  double ValueWhenEmpty = 0.0;
+  // Whether the line is written for this object; null: always.
+  bool (*WrittenWhen)(const Object& object) = nullptr;
 };
 
 // Writes one line of a table.
 template <typename Object>
 void vRmKeywordLineWrite(AsfFile* file, AsfSection* section, const Object& object,
                          const RmKeywordLine<Object>& entry) {
+  if (entry.WrittenWhen && !entry.WrittenWhen(object)) return;
   char format[64];
   std::snprintf(format, sizeof format, "%s %s", entry.Keyword, entry.Format);
   if (entry.Integer) {
@@ -67,16 +74,17 @@ bool boRmKeywordLineRead(RecordLine* line, Object* object,
                          std::span<const RmKeywordLine<Object>> lines) {
   for (const RmKeywordLine<Object>& entry : lines) {
     if (std::strcmp(line->Token, entry.Keyword) != 0) continue;
+    const int emptyInteger = static_cast<int>(entry.ValueWhenEmpty);
     if (entry.Integer) {
-      object->*entry.Integer =
-          iRecordInteger(line, entry.KeepsValueWhenEmpty ? object->*entry.Integer : 0);
+      object->*entry.Integer = iRecordInteger(
+          line, entry.KeepsValueWhenEmpty ? object->*entry.Integer : emptyInteger);
     } else if (entry.SetInteger) {
-      entry.SetInteger(object, iRecordInteger(line));
+      entry.SetInteger(object, iRecordInteger(line, emptyInteger));
     } else if (entry.Real) {
-      object->*entry.Real =
-          dRecordNumber(line, entry.KeepsValueWhenEmpty ? object->*entry.Real : 0.0);
+      object->*entry.Real = dRecordNumber(
+          line, entry.KeepsValueWhenEmpty ? object->*entry.Real : entry.ValueWhenEmpty);
     } else if (entry.SetReal) {
-      entry.SetReal(object, dRecordNumber(line));
+      entry.SetReal(object, dRecordNumber(line, entry.ValueWhenEmpty));
     } else if (entry.SetText) {
       entry.SetText(object, sRecordToken(line));
     }

@@ -10,6 +10,11 @@
 #include "road_model/params/nrm_conversion.h"
 #include "road_model/sections/section_placing.h"
 #include "road_model/sections/section_set.h"
+#include "road_model/surfaces/surf_gen.h"
+#include "road_model/surfaces/surface_groups.h"
+#include "road_model/tables/side_boundaries.h"
+#include "road_model/tables/special_gradings.h"
+#include "road_model/tables/surface_border_lines.h"
 
 namespace {
 
@@ -33,6 +38,37 @@ void vRewriteOldCodes(RmSectionSet* set) {
 void vRewriteAllOldCodes(RmModel* model) {
   vRewriteOldCodes(RmModelGetCrossSections(model));
   vRewriteOldCodes(RmModelGetLongSections(model));
+  const RmSurfGen* gen = RmModelGetSurfGen(model);
+  vRmSurfaceGroupsMapCodes(RmSurfGenGet<kRmSurfaceGroupsSlot>(gen), iRmPcodeFromOldForm);
+  vRmSpecialGradingsMapCodes(RmSurfGenGet<kRmSpecialGradingsSlot>(gen), iRmPcodeFromOldForm);
+  vRmSideBoundariesMapCodes(RmModelGetSideBoundaries(model), iRmPcodeFromOldForm);
+}
+
+// Surface groups of such files could not start at an extra line; what they
+// held in its place were offsets from the centre.
+void vStartGroupsAtOffsets(RmModel* model) {
+  vRmSurfaceGroupsStartAtOffsets(RmSurfGenGet<kRmSurfaceGroupsSlot>(RmModelGetSurfGen(model)));
+}
+
+// Models of such files built without CALCMODE kept the border lines of the
+// surfaces on the model, where the first surface group keeps them now.
+void vMoveBorderLinesIntoFirstGroup(RmModel* model) {
+  RmSurfaceBorderLines* lines = RmModelGetSurfaceBorderLines(model);
+  RmSurfaceGroup* group =
+      RmSurfaceGroupsGetFirst(RmSurfGenGet<kRmSurfaceGroupsSlot>(RmModelGetSurfGen(model)));
+  if (model->CalcMode != 0 || !lines || !group) return;
+  if (!group->BorderLines) group->BorderLines = RmSurfaceBorderLinesCreate();
+  for (const RmSurfaceBorderLine* row = RmSurfaceBorderLinesGetFirst(lines); row;
+       row = row->Next) {
+    RmSurfaceBorderLine* copy =
+        RmSurfaceBorderLineAdd(group->BorderLines, row->Surface, row->Range.Low);
+    if (!copy) continue;
+    copy->Range = row->Range;
+    copy->Method = row->Method;
+    copy->LineId = row->LineId;
+    copy->FreeSurface = row->FreeSurface;
+  }
+  vRmModelSetSurfaceBorderLines(model, nullptr);
 }
 
 // Locked sections of such files are to be rebuilt before they are locked
@@ -89,7 +125,8 @@ void vSplitOldNrmParams(RmModel* model) { vNrmParamsSplitOldParams(RmModelGetNrm
 
 constexpr Migration kMigrations[] = {
     // Version 0 alone (a file without the key): a negative version is no
-    // version 0. Needs every table that holds PCODEs: the section sets.
+    // version 0. Needs every table that holds PCODEs: the section sets, the
+    // surface groups, the special gradings and the side boundaries.
     {0, 0, vRewriteAllOldCodes},
     // Needs the cross sections.
     {INT_MIN, 2, vMarkLockedForRebuild},
@@ -101,6 +138,10 @@ constexpr Migration kMigrations[] = {
     {INT_MIN, 3, vConvertOldNrmCodes},
     {INT_MIN, 4, vChangeOldNrmSigns},
     {INT_MIN, 8, vSplitOldNrmParams},
+    // Needs the surface groups.
+    {INT_MIN, 8, vStartGroupsAtOffsets},
+    // Needs MASSCALC, the model's border lines and the surface groups.
+    {INT_MIN, 11, vMoveBorderLinesIntoFirstGroup},
     // Needs both lists of annotation types.
     {INT_MIN, 12, vNameAnnotatedLines},
 };

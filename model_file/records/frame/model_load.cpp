@@ -16,6 +16,10 @@
 #include "model_file/records/frame/model_file.h"
 #include "model_file/records/frame/record_families.h"
 #include "road_model/model/model.h"
+#include "road_model/model/model_parts.h"
+#include "road_model/surfaces/surf_gen.h"
+#include "road_model/tables/chain_range_table.h"
+#include "road_model/tables/special_gradings.h"
 
 namespace {
 
@@ -41,6 +45,17 @@ void vReadHeadKeys(AsfFile* file, RmModel* model) {
       vRmModelSetGuid(model, value);
     }
   }
+}
+
+// The superstructure mode asks the section builder to use the special
+// gradings and stone excavation slopes; a model without either has nothing
+// for it to use.
+void vClearUnusedSuperstructureMode(RmModel* model) {
+  RmSurfGen* gen = RmModelGetSurfGen(model);
+  if (!gen || gen->SuperstructureMode != 1) return;
+  if (boRmSpecialGradingsHasRows(RmSurfGenGet<kRmSpecialGradingsSlot>(gen))) return;
+  if (boRmChainRangeTableHasRows(RmSurfGenGet<kRmStoneExcavationSlopesSlot>(gen))) return;
+  gen->SuperstructureMode = 0;
 }
 
 }  // namespace
@@ -83,6 +98,8 @@ void vRmModelRead(AsfFile* file, RmModel* model, const char* path) {
   model->ChangeTime = static_cast<uint64_t>(lFileTimeNow());
 
   vRmModelSetFileName(model, path);
+  // The sections of the surface tables are read into a new, empty object.
+  vRmModelSetSurfGen(model, RmSurfGenCreate());
   model->ContainerVersion = iAsfFileGetVersion(file);
   model->DataVersion = 0;
   vReadHeadKeys(file, model);
@@ -93,6 +110,7 @@ void vRmModelRead(AsfFile* file, RmModel* model, const char* path) {
     if (section) family->Read(file, section, model, *family);
   }
   vRmModelMigrate(model);
+  vClearUnusedSuperstructureMode(model);
   if (loadCallback) loadCallback(model);
 }
 

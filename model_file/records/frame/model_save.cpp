@@ -10,6 +10,8 @@
 #include "base/temp_files.h"
 #include "model_file/records/frame/model_write.h"
 #include "road_model/model/model.h"
+#include "road_model/model/model_parts.h"
+#include "road_model/surfaces/surf_gen.h"
 
 namespace {
 
@@ -57,6 +59,7 @@ bool boRmModelSave(RmModel* model, const char* path) {
   vFlushFolderOf(target);
 
   vRmModelSetDirty(model, false);
+  vRmSurfGenClearChanged(RmModelGetSurfGen(model));
   int64_t writeTime = 0;
   if (boFileGetTime(target, &writeTime)) model->FileTime = static_cast<uint64_t>(writeTime);
   return true;

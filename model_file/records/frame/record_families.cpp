@@ -16,6 +16,7 @@
 #include "model_file/records/road_class/road_class_parameters_record.h"
 #include "model_file/records/sections/section_mass_lines_record.h"
 #include "model_file/records/sections/section_sets_record.h"
+#include "model_file/records/surfaces/surf_gen_record.h"
 #include "model_file/records/tables/chain_range_families.h"
 #include "model_file/records/tables/closed_ditches_record.h"
 #include "model_file/records/tables/erosion_protections_record.h"
@@ -67,6 +68,8 @@ constexpr const RmRecordFamily* kWriteOrder[] = {
     &kRmTunnelBlockInsertsFamily,
     &kRmTunnelParamDataFamily,
     &kRmDitchParamDataFamily,
+    &kRmBuildSettingsFamily,
+    &kRmSurfGenFamily,
     &kRmRockBenchesFamily,
     &kRmMinDitchDepthsFamily,
     &kRmLandscapingsFamily,
@@ -119,8 +122,11 @@ constexpr const RmRecordFamily* kReadOrder[] = {
     &kRmLongMassTypesFamily,
     &kRmCrossAnnotationTypesFamily,
     &kRmLongAnnotationTypesFamily,
-    // The side boundaries and the surface border lines hang from the model
-    // itself.
+    // The tables of the surface tables object, which the load has made;
+    // the side boundaries and the surface border lines among them hang from
+    // the model itself.
+    &kRmBuildSettingsFamily,
+    &kRmSurfGenFamily,
     &kRmRockBenchesFamily,
     &kRmMinDitchDepthsFamily,
     &kRmLandscapingsFamily,

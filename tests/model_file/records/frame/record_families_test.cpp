@@ -17,7 +17,8 @@ namespace {
 
 const char* const kFixtures[] = {"head_sections.sfi", "plan_lines.sfi", "section_forms.sfi",
                                  "vocabulary.sfi", "road_class.sfi", "tunnel_chain.sfi",
-                                 "gradings.sfi", "side_tables.sfi", "chain_range_tables.sfi"};
+                                 "gradings.sfi", "side_tables.sfi", "chain_range_tables.sfi",
+                                 "surfaces.sfi"};
 
 // The head line of a family's body in a file: "[+L_]", "[+O_MASSCALC]".
 std::string sBodyHead(const RmRecordFamily& family) {
