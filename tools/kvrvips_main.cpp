@@ -3,6 +3,9 @@
 //   kvrvips convert DESIGN MODEL [--flags N] [--settings FILE]
 //                                [--describe-open-error] [--convert-first]
 //   kvrvips check DESIGN
+//   kvrvips show MODEL [--section CHAIN] [--json]
+//   kvrvips plot MODEL (--section CHAIN [--to CHAIN] [--each] | --plan) [-o FILE.svg]
+//                      [--exaggerate N]
 //   kvrvips --help | --version
 #include <CLI/CLI.hpp>
 
@@ -12,6 +15,9 @@
 #include "tools/convert_command.h"
 #include "tools/exit_codes.h"
 #include "tools/import_flags.h"
+#include "tools/inspect/inspect_arguments.h"
+#include "tools/inspect/plot_command.h"
+#include "tools/inspect/show_command.h"
 
 namespace {
 
@@ -31,12 +37,14 @@ CLI::Validator ImportFlagsValidator() {
 }  // namespace
 
 int main(int argc, char** argv) {
-  CLI::App app("Converts a road or railway design document into a road model file.", "kvrvips");
+  CLI::App app("Converts a road or railway design document into a road model file, and shows "
+               "and draws road model files.",
+               "kvrvips");
   app.set_version_flag("--version", "kvrvips " KVRVIPS_VERSION);
   app.require_subcommand(1);
   app.footer(
-      "Exit status: 0 done, 1 the conversion failed or the design document is not valid, "
-      "2 the command line cannot be understood.");
+      "Exit status: 0 done, 1 the conversion failed, the design document is not valid or the "
+      "model file cannot be read or drawn, 2 the command line cannot be understood.");
 
   ConvertRequest request;
   std::string flagsText = "65535";
@@ -63,6 +71,11 @@ int main(int argc, char** argv) {
   CLI::App* check = app.add_subcommand("check", "Check that DESIGN is a valid design document");
   check->add_option("DESIGN", checkDesign, "The design document")->required();
 
+  ShowRequest showRequest;
+  CLI::App* show = AddShowCommand(app, showRequest);
+  PlotRequest plotRequest;
+  CLI::App* plot = AddPlotCommand(app, plotRequest);
+
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {
@@ -71,6 +84,8 @@ int main(int argc, char** argv) {
   }
 
   if (check->parsed()) return iRunCheck(checkDesign);
+  if (show->parsed()) return iRunShow(showRequest);
+  if (plot->parsed()) return iRunPlot(plotRequest);
   boParseImportFlags(flagsText.c_str(), &request.uFlags);
   return iRunConvert(request);
 }
