@@ -35,11 +35,13 @@ double dReadNumber(const char* text) {
   return std::isfinite(value) ? value : 0.0;
 }
 
+// An integer as the file prints it, unsigned, or with a sign; what does not
+// fit into 32 bits is 0.
 int32_t iReadInteger(const char* text) {
   errno = 0;
-  long value = std::strtol(text, nullptr, 10);
-  if (errno != 0 || value < INT32_MIN || value > INT32_MAX) return 0;
-  return static_cast<int32_t>(value);
+  long long value = std::strtoll(text, nullptr, 10);
+  if (errno != 0 || value < INT32_MIN || value > UINT32_MAX) return 0;
+  return static_cast<int32_t>(static_cast<uint32_t>(value));
 }
 
 }  // namespace

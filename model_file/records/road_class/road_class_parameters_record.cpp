@@ -1,6 +1,8 @@
 #include "model_file/records/road_class/road_class_parameters_record.h"
 
 #include <cerrno>
+#include <cfloat>
+#include <cmath>
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
@@ -212,6 +214,13 @@ unsigned long long llReadUnsigned(RecordLine* line) {
   return errno == 0 ? value : 0;
 }
 
+// A factor of the line; what cannot be read as one, or does not fit a
+// float, is 0.
+double dReadNumber(RecordLine* line) {
+  const double value = std::strtod(sRecordToken(line), nullptr);
+  return std::isfinite(value) && std::fabs(value) <= FLT_MAX ? value : 0.0;
+}
+
 // Reads one line; `seen` counts the lines of the list keyword so far.
 void vReadLine(RecordLine* record, Params* params, const Line& line, size_t* seen) {
   switch (line.Kind) {
@@ -251,10 +260,10 @@ void vReadLine(RecordLine* record, Params* params, const Line& line, size_t* see
       params->*line.Count = static_cast<size_t>(llReadUnsigned(record));
       return;
     case Form::kFactor:
-      params->*line.Factor = RmFactor{static_cast<float>(dRecordNumber(record)), 1};
+      params->*line.Factor = RmFactor{static_cast<float>(dReadNumber(record)), 1};
       return;
     case Form::kFlag:
-      params->*line.Flag = RmGivenFlag{static_cast<uint8_t>(iRecordInteger(record) != 0), 1};
+      params->*line.Flag = RmGivenFlag{static_cast<uint8_t>(llReadUnsigned(record) != 0), 1};
       return;
   }
 }

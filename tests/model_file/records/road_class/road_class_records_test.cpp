@@ -33,29 +33,35 @@ std::string sLinesOf(const std::string& body, const std::string& keyword) {
 
 }  // namespace
 
-TEST(RoadClassRecords, NumberRecordsKeepTheirUnitRatio) {
+TEST(RoadClassRecords, ValuesKeepTheirUnitRatioAndBadNumbersReadAsZero) {
   struct Case {
+    const char* Keyword;
     const char* Read;
     const char* Written;
   } const kCases[] = {
-      {"SPEEDLIMIT 80.0000", "SPEEDLIMIT 80.0000\r\n"},
-      {"SPEEDLIMIT 80.0000;3,2", "SPEEDLIMIT 80.0000;3,2\r\n"},
-      {"SPEEDLIMIT 2.5;0,1", "SPEEDLIMIT 2.5000;0,1\r\n"},
-      {"SPEEDLIMIT 80.0000;1,1", "SPEEDLIMIT 80.0000\r\n"},
+      {"SPEEDLIMIT", "SPEEDLIMIT 80.0000", "SPEEDLIMIT 80.0000\r\n"},
+      {"SPEEDLIMIT", "SPEEDLIMIT 80.0000;3,2", "SPEEDLIMIT 80.0000;3,2\r\n"},
+      {"SPEEDLIMIT", "SPEEDLIMIT 2.5;0,1", "SPEEDLIMIT 2.5000;0,1\r\n"},
+      {"SPEEDLIMIT", "SPEEDLIMIT 80.0000;1,1", "SPEEDLIMIT 80.0000\r\n"},
       // Nothing behind the keyword, or no number: given, and 0.
-      {"SPEEDLIMIT", "SPEEDLIMIT 0.0000\r\n"},
-      {"SPEEDLIMIT km/h;2,3", "SPEEDLIMIT 0.0000;2,3\r\n"},
+      {"SPEEDLIMIT", "SPEEDLIMIT", "SPEEDLIMIT 0.0000\r\n"},
+      {"SPEEDLIMIT", "SPEEDLIMIT km/h;2,3", "SPEEDLIMIT 0.0000;2,3\r\n"},
       // A ratio without its comma leaves the value as it was: not given.
-      {"SPEEDLIMIT 60;5", ""},
+      {"SPEEDLIMIT", "SPEEDLIMIT 60;5", ""},
       // Always written, given or not.
-      {"UNKNOWN 5", ""},
+      {"INTERSECTIONDISTANCE", "UNKNOWN 5", "INTERSECTIONDISTANCE 0.0000\r\n"},
+      {"BRAKEFRICTION", "BRAKEFRICTION x", "BRAKEFRICTION 0.000\r\n"},
+      {"BRAKEFRICTION", "BRAKEFRICTION 1e300", "BRAKEFRICTION 0.000\r\n"},
+      {"NARROWROAD", "NARROWROAD yes", "NARROWROAD 0\r\n"},
+      {"AADT_FROM", "AADT_FROM -5;1,1", "AADT_FROM 4294967291\r\n"},
+      {"AADT_FROM", "AADT_FROM 4294967291", "AADT_FROM 4294967291\r\n"},
+      {"INTERSECTIONTYPES", "INTERSECTIONTYPES -1", "INTERSECTIONTYPES 0\r\n"},
   };
   for (const Case& test : kCases) {
     ModelPtr model = ReadModel(sRoadClassFile("Nor", {test.Read}));
     ASSERT_NE(model, nullptr);
     const std::string body = sSectionBody(sWrittenModel(model.get()), "ROADCLASSPARAMETERS");
-    EXPECT_EQ(sLinesOf(body, "SPEEDLIMIT"), test.Written) << test.Read;
-    EXPECT_EQ(sLinesOf(body, "INTERSECTIONDISTANCE"), "INTERSECTIONDISTANCE 0.0000\r\n");
+    EXPECT_EQ(sLinesOf(body, test.Keyword), test.Written) << test.Read;
   }
 }
 
