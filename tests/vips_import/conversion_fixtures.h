@@ -52,3 +52,18 @@ class CurrentDirectory {
  private:
   std::string previous_;
 };
+
+// What the table readers of an import log, in their order: the headings,
+// with the warnings of the ditches in fill and the lines of the connected
+// models behind their own.
+inline std::string sTablesLog(const std::string& ditchWarnings = "",
+                              const std::string& connectedModels = "") {
+  return "Leser tabell: Sideavgrensning\n"
+         "Leser tabell: Gr\xF8" "ft i fylling\n" + ditchWarnings +
+         "Leser tabell: Fjellhylle\n"
+         "Leser tabell: Min. gr\xF8" "fte dybde\n"
+         "Leser tabell: Lukkede gr\xF8" "fter \n"
+         "Leser tabell: Min. gr\xF8" "fte dybde\n" + connectedModels +
+         "Leser tabell: Fjerning av matjord og vegetasjon\n"
+         "Leser tabell: Masseutskiftning\n";
+}

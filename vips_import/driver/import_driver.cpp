@@ -7,10 +7,15 @@
 #include "parameters/factory_settings.h"
 #include "road_model/model/model.h"
 #include "road_model/model/model_lines.h"
+#include "road_model/model/model_parts.h"
 #include "road_model/model/model_scalars.h"
+#include "road_model/surfaces/surf_gen.h"
 #include "vips_import/readers/alignments.h"
+#include "vips_import/readers/chainage_tables.h"
+#include "vips_import/readers/closed_drainages.h"
 #include "vips_import/readers/connected_models.h"
 #include "vips_import/readers/elevation_differences.h"
+#include "vips_import/readers/side_tables.h"
 #include "vips_import/driver/external_converter.h"
 #include "vips_import/driver/import_log.h"
 #include "vips_import/driver/open_errors.h"
@@ -108,12 +113,45 @@ void vReadExtraAlignments(VipsImportRun& run) {
   iVipsReadAlignments(run.in, run.log, run.model, 0, 1, 1);
 }
 
+// Every import of the tables starts from a new, empty surface tables
+// object: what the model held of them goes.
 void vStartTables(VipsImportRun& run) {
   run.rehabUsed = 0;
+  vRmModelSetSurfGen(run.model, RmSurfGenCreate());
   vRmModelSetCalcMode(run.model, 0);
 }
 
+RmSurfGen* SurfGen(const VipsImportRun& run) { return RmModelGetSurfGen(run.model); }
+
+void vReadSurfaceBoundaries(VipsImportRun& run) {
+  iVipsReadSurfaceBoundaries(run.in, run.log, run.model);
+}
+
+void vReadSurfaceEdgeAlignments(VipsImportRun& run) {
+  vVipsReadSurfaceEdgeAlignments(run.in, run.log, SurfGen(run));
+}
+
+void vReadEmbankmentDitches(VipsImportRun& run) {
+  iVipsReadEmbankmentDitches(run.in, run.log, SurfGen(run));
+}
+
+void vReadRockShelves(VipsImportRun& run) { iVipsReadRockShelves(run.in, run.log, SurfGen(run)); }
+
+void vReadDitchDepths(VipsImportRun& run) { iVipsReadDitchDepths(run.in, run.log, SurfGen(run)); }
+
+void vReadClosedDrainages(VipsImportRun& run) {
+  iVipsReadClosedDrainages(run.in, run.log, run.model);
+}
+
 void vReadConnectedModels(VipsImportRun& run) { iVipsReadConnectedModels(run.in, run.log); }
+
+void vReadTopSoilRemovals(VipsImportRun& run) {
+  iVipsReadTopSoilRemovals(run.in, run.log, SurfGen(run));
+}
+
+void vReadSoftSpotRemovals(VipsImportRun& run) {
+  iVipsReadSoftSpotRemovals(run.in, run.log, SurfGen(run));
+}
 
 void vClearSections(VipsImportRun& run) { vVipsClearSections(run.model); }
 
@@ -146,7 +184,18 @@ constexpr VipsImportStep kImportSteps[] = {
     {kVipsImportExtraAlignments, VipsStepNeeds::kInput, vReadExtraAlignments},
     // The tables, also when the design gave no object.
     {kVipsImportTables, VipsStepNeeds::kNothing, vStartTables},
+    // The tables of the design's input side. The side tables hang on the
+    // surfaces, so that they come after them; the counts of rows are not
+    // looked at.
+    {kVipsImportTables, VipsStepNeeds::kInput, vReadSurfaceBoundaries},
+    {kVipsImportTables, VipsStepNeeds::kInput, vReadSurfaceEdgeAlignments},
+    {kVipsImportTables, VipsStepNeeds::kInput, vReadEmbankmentDitches},
+    {kVipsImportTables, VipsStepNeeds::kInput, vReadRockShelves},
+    {kVipsImportTables, VipsStepNeeds::kInput, vReadDitchDepths},
+    {kVipsImportTables, VipsStepNeeds::kInput, vReadClosedDrainages},
     {kVipsImportTables, VipsStepNeeds::kInput, vReadConnectedModels},
+    {kVipsImportTables, VipsStepNeeds::kInput, vReadTopSoilRemovals},
+    {kVipsImportTables, VipsStepNeeds::kInput, vReadSoftSpotRemovals},
     // Sections, always rebuilt from scratch by the readers of the result
     // side.
     {kVipsImportTables, VipsStepNeeds::kDesign, vClearSections},

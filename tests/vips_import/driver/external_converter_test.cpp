@@ -75,8 +75,8 @@ ConverterRun RunWithConverter(int exitCode, const std::string& design,
 // A full import of a design without alignments or tables.
 const std::string kFullLog = sLogHead("Np21", "Road", "10.0") +
                              "  Leser tabell: Overstyring av vertikalkurvatur\n\n\n"
-                             "Leser ekstra linjer\n"
-                             "Leser tabell: Min. gr\xF8" "fte dybde\n\n";
+                             "Leser ekstra linjer\n" +
+                             sTablesLog() + "\n";
 
 TEST(ExternalConverter, SuccessGoesOnToOpenTheDesign) {
   // A path with blanks reaches the converter as several arguments.

@@ -53,7 +53,8 @@ void vSaveWorkedModel(const std::string& modelFile) {
   ASSERT_EQ(iRmLinesGetCount(RmModelGetLines(Loaded(modelFile).get())), 2);
 }
 
-const std::string kTablesHeading = "Leser tabell: Min. gr\xF8" "fte dybde\n";
+// The headings of the table readers of a design without tables.
+const std::string kTablesHeading = sTablesLog();
 // What a full import logs of a design without alignments: the heading of
 // the elevation differences with the blank line for none, and the heading
 // of the other alignments.
@@ -125,9 +126,10 @@ TEST(ConvertDatabase, TheFlagsAndTheInputSideDecideWhatOfTheLoadedModelStays) {
        sLogHead("Unknown", "WS", "9.0") + kNoAlignments + kTablesHeading + "\n", 9.0, "", 0, 0, 0},
       // The tables list the connected models without resetting the model.
       {sInputOf("8.1", 1, connected), KVRVIPS_IMPORT_TABLES,
-       sLogHead("Np19.20", "Road", "8.1") + kTablesHeading +
-           "Gr\xF8" "ftemodel:\t10.000\t20.500\tGr\xF8" "ft A\n"
-           "Gr\xF8" "ftemodel:\t-5.125\t0.000\tKanal ?\n\n",
+       sLogHead("Np19.20", "Road", "8.1") +
+           sTablesLog("", "Gr\xF8" "ftemodel:\t10.000\t20.500\tGr\xF8" "ft A\n"
+                          "Gr\xF8" "ftemodel:\t-5.125\t0.000\tKanal ?\n") +
+           "\n",
        8.1, "Nor", 4, 0, 0},
       // A design without input side is neither logged nor read for
       // alignments, and resets nothing; the tables start all the same.

@@ -173,7 +173,7 @@ const std::string kLogMain = "Leser horisontalkurvatur\n";
 const std::string kLogProfile = "Leser vertikalkurvatur\n";
 const std::string kLogDifferences = "  Leser tabell: Overstyring av vertikalkurvatur\n\n";
 const std::string kLogExtra = "Leser ekstra linjer\n";
-const std::string kLogTables = "Leser tabell: Min. gr\xF8" "fte dybde\n\n";
+const std::string kLogTables = sTablesLog() + "\n";
 
 // ---- Conversion ----
 
