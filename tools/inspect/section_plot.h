@@ -6,7 +6,8 @@
 // frame with its chainage.
 //
 // Each layer is a group <g class="layer" data-layer="N">, N the layer's file
-// number, holding one <polyline> per run of points between gaps.
+// number, holding one <polyline> per run of points between gaps (a dot for
+// a run of one point) and a <circle> per coded point.
 #pragma once
 
 #include <string>

@@ -69,7 +69,8 @@ std::string sSummaryText(const ModelSummary& summary) {
 
   out += fmt::format("Tables: {}\n", summary.Tables.size());
   for (const TableRows& table : summary.Tables) {
-    out += fmt::format("  {:<22}  {:>6} rows\n", table.Name, table.Rows);
+    out += fmt::format("  {:<22}  {:>6} {}\n", table.Name, table.Rows,
+                       table.Rows == 1 ? "row" : "rows");
   }
 
   vAppendMassTypes(out, "Mass types of cross sections", summary.CrossMassTypes);
