@@ -36,7 +36,9 @@ bool boWriteDrawing(const std::string& path, const std::string& svg) {
 
 std::string sEachFileName(const std::string& output, double chain) {
   std::string stem = output;
-  if (stem.size() > 4 && stem.compare(stem.size() - 4, 4, ".svg") == 0) stem.resize(stem.size() - 4);
+  if (stem.size() > 4 && stem.compare(stem.size() - 4, 4, ".svg") == 0) {
+    stem.resize(stem.size() - 4);
+  }
   return fmt::format("{}_{:.3f}.svg", stem, chain);
 }
 
