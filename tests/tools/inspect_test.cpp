@@ -293,7 +293,8 @@ TEST(KvrvipsPlot, DrawsEachLayerAsPolylinesBrokenAtGaps) {
 
 TEST(KvrvipsPlot, OneFileEachAndThePlan) {
   ScratchFolder folder;
-  ProgramRun run = RunTool({"plot", kModel, "--section", "1000", "--to", "1020", "--each",
+  // A range given from its far end.
+  ProgramRun run = RunTool({"plot", kModel, "--section", "1020", "--to", "1000", "--each",
                             "--exaggerate", "2", "-o", folder / "cut.svg"});
   ASSERT_EQ(run.iStatus, 0) << run.sErr;
   const std::string first = folder / "cut_1000.000.svg";

@@ -4,6 +4,7 @@
 
 #include <cstdio>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "road_model/model/model_parts.h"
@@ -50,8 +51,12 @@ int iRunPlot(const PlotRequest& request) {
   }
 
   std::string message;
-  std::vector<const RmSection*> sections = PickSections(
-      RmModelGetCrossSections(model.get()), request.dSection, request.dTo, &message);
+  // A range may be given from either end.
+  double from = request.dSection;
+  double to = request.dTo;
+  if (to != kNoChain && to < from) std::swap(from, to);
+  std::vector<const RmSection*> sections =
+      PickSections(RmModelGetCrossSections(model.get()), from, to, &message);
   if (sections.empty()) {
     std::fprintf(stderr, "%s: %s: %s\n", kProgram, request.sModel.c_str(), message.c_str());
     return kExitFailed;
