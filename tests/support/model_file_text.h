@@ -5,6 +5,8 @@
 
 #include <initializer_list>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "model_file/container/asf_file.h"
 #include "model_file/records/frame/model_load.h"
@@ -14,10 +16,13 @@
 
 
 // The lines, each ended by CR LF.
-inline std::string sCrLf(std::initializer_list<std::string> lines) {
+inline std::string sCrLf(const std::vector<std::string>& lines) {
   std::string text;
   for (const std::string& line : lines) text += line + "\r\n";
   return text;
+}
+inline std::string sCrLf(std::initializer_list<std::string> lines) {
+  return sCrLf(std::vector<std::string>(lines));
 }
 
 // The `_EXTENT` placeholder of an empty extent, as a finished file holds it.
@@ -81,4 +86,30 @@ inline ModelPtr ReadModel(const std::string& bytes) {
   if (accepted) vRmModelRead(file, model.get(), "mem");
   vAsfFileClose(file);
   return accepted ? std::move(model) : nullptr;
+}
+
+// A model file of DATAVERSION `version` holding these O sections, each with
+// its body, in this order.
+inline std::string sModelFileOf(
+    int version, const std::vector<std::pair<std::string, std::string>>& sections) {
+  std::string head = sCrLf({"[KVRFILE_ASCII]", "_VERSION 2", "_FILETYPE sfi",
+                            "_INDEX !!!!!!!!!!!!!!!!!!!!", sEmptyExtentLine(),
+                            "DATAVERSION " + std::to_string(version)});
+  std::string bodies;
+  for (const auto& [name, body] : sections) {
+    head += "[O_" + name + "]\r\n";
+    bodies += "[+O_" + name + "]\r\n" + body;
+  }
+  return head + bodies + "[END]\r\n";
+}
+
+// The body of section `name` as a model writes it back after reading a file
+// of `version` whose only section is `name` with these lines: "<none>" when
+// the model writes no such section, "<refused>" when the file was refused.
+inline std::string sSectionWrittenBack(const std::string& name,
+                                       const std::vector<std::string>& lines,
+                                       int version = 13) {
+  ModelPtr model = ReadModel(sModelFileOf(version, {{name, sCrLf(lines)}}));
+  if (!model) return "<refused>";
+  return sSectionBody(sWrittenModel(model.get()), name);
 }

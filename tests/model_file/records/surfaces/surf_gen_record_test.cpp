@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "tests/support/model_file_text.h"
@@ -12,21 +11,6 @@
 namespace {
 
 using Sections = std::vector<std::pair<std::string, std::string>>;
-
-// A model file of `version` with these O sections and bodies.
-std::string sFileOf(int version, const Sections& sections) {
-  std::vector<std::string> names;
-  std::string bodies;
-  for (const auto& [name, body] : sections) {
-    names.push_back(name);
-    bodies += "[+O_" + name + "]\r\n" + body;
-  }
-  std::string head = sCrLf({"[KVRFILE_ASCII]", "_VERSION 2", "_FILETYPE sfi",
-                            "_INDEX !!!!!!!!!!!!!!!!!!!!", sEmptyExtentLine(),
-                            "DATAVERSION " + std::to_string(version)});
-  for (const std::string& name : names) head += "[O_" + name + "]\r\n";
-  return head + bodies + "[END]\r\n";
-}
 
 struct RewriteCase {
   const char* What;
@@ -75,7 +59,7 @@ TEST(SurfGenRecords, FilesAreWrittenBackInTheModelsOrderAndForm) {
        sCrLf({"BUILDSETTINGS 0"})},
   };
   for (const RewriteCase& c : cases) {
-    ModelPtr model = ReadModel(sFileOf(c.Version, c.Input));
+    ModelPtr model = ReadModel(sModelFileOf(c.Version, c.Input));
     ASSERT_NE(model, nullptr) << c.What;
     const std::string written = sWrittenModel(model.get());
     EXPECT_EQ(sSectionBody(written, "SURFGEN"), c.SurfGen) << c.What;
@@ -86,9 +70,9 @@ TEST(SurfGenRecords, FilesAreWrittenBackInTheModelsOrderAndForm) {
 
 TEST(SurfGenRecords, SuperstructureModeNeedsGradingsOrStoneSlopes) {
   const std::string masscalc = sCrLf({"SUPERSTRUCTUREMODE 1"});
-  ModelPtr without = ReadModel(sFileOf(13, {{"MASSCALC", masscalc}}));
+  ModelPtr without = ReadModel(sModelFileOf(13, {{"MASSCALC", masscalc}}));
   EXPECT_NE(sWrittenModel(without.get()).find("SUPERSTRUCTUREMODE 0\r\n"), std::string::npos);
-  ModelPtr with = ReadModel(sFileOf(
+  ModelPtr with = ReadModel(sModelFileOf(
       13, {{"MASSCALC", masscalc},
            {"SPECIALGRADINGS", sCrLf({":SPECIALGRADINGCHAIN 10.000", " 10100 0.500 10200 1.000"})}}));
   EXPECT_NE(sWrittenModel(with.get()).find("SUPERSTRUCTUREMODE 1\r\n"), std::string::npos);

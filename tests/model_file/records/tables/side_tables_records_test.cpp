@@ -52,17 +52,11 @@ const SectionCase kCases[] = {
      {"LAYER 21", "LAYER 32"}},
 };
 
-std::string sFile(const std::string& name, const std::string& body) {
-  return sModelHead({"DATAVERSION 13"}, {name}) + "[+O_" + name + "]\r\n" + body + "[END]\r\n";
-}
-
 }  // namespace
 
 TEST(SideTableRecords, SectionsAreWrittenBackInTheModelsOrderWithoutWhatCannotBeRead) {
   for (const SectionCase& section : kCases) {
-    ModelPtr model = ReadModel(sFile(section.Name, sCrLf(section.Read)));
-    ASSERT_NE(model, nullptr) << section.Name;
-    EXPECT_EQ(sSectionBody(sWrittenModel(model.get()), section.Name), sCrLf(section.Written))
+    EXPECT_EQ(sSectionWrittenBack(section.Name, section.Read), sCrLf(section.Written))
         << section.Name;
   }
 }
@@ -84,7 +78,7 @@ TEST(SideTableRecords, EmptySectionsStoreEmptyTablesAndWriteNothing) {
 
 TEST(SideTableRecords, ALayerWithoutLinesWritesOnlyItsLayerLine) {
   // A loaded model has its surface tables object.
-  ModelPtr model = ReadModel(sFile("MASSCALC", ""));
+  ModelPtr model = ReadModel(sModelFileOf(13, {{"MASSCALC", ""}}));
   ASSERT_NE(model, nullptr);
   RmStringLines* table = RmStringLinesCreate();
   RmStringLineAdd(table, RmLayerIdMake(1, 2));
