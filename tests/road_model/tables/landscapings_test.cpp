@@ -12,7 +12,8 @@ using Table = Owned<RmLandscapings, vRmLandscapingsDelete>;
 
 std::vector<double> Chains(const ListHead* list) {
   std::vector<double> chains;
-  for (RmLandscaping* item = RmLandscapingsGetFirst(list); item; item = RmLandscapingGetNext(item)) {
+  for (RmLandscaping* item = RmLandscapingsGetFirst(list); item;
+       item = RmLandscapingGetNext(item)) {
     chains.push_back(item->Chain);
   }
   return chains;
