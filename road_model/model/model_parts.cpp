@@ -226,183 +226,68 @@ std::span<const RmModelPart> RmModelParts() { return kParts; }
 
 // ---- Typed access to the slots ----
 
-RmAdmData* RmModelGetAdmData(const RmModel* model) { return model ? model->AdmData : nullptr; }
+// The typed accessors of a slot without a pending form.
+#define KVRVIPS_SINGLE_SLOT(Name, Type, SlotType)       \
+  Type* RmModelGet##Name(const RmModel* model) {        \
+    return model ? model->Name : nullptr;               \
+  }                                                     \
+  void vRmModelSet##Name(RmModel* model, Type* object) { \
+    if (model) SlotType::Replace(&model->Name, object); \
+  }
 
-void vRmModelSetAdmData(RmModel* model, RmAdmData* data) {
-  if (model) AdmDataSlot::Replace(&model->AdmData, data);
+// The typed accessors of a slot with a pending form but its commit.
+#define KVRVIPS_PENDING_SLOT_BUT_COMMIT(Name, Type, SlotType)                 \
+  KVRVIPS_SINGLE_SLOT(Name, Type, SlotType)                                   \
+  Type* RmModelGet##Name##Pending(const RmModel* model) {                     \
+    return model ? model->Name##Pending : nullptr;                            \
+  }                                                                           \
+  Type* RmModelGet##Name##Effective(const RmModel* model) {                   \
+    if (!model) return nullptr;                                               \
+    return model->Name##Pending ? model->Name##Pending : model->Name;         \
+  }                                                                           \
+  Type* RmModelPrepare##Name(RmModel* model) {                                \
+    return model ? SlotType::Prepare(model) : nullptr;                        \
+  }                                                                           \
+  void vRmModelDiscard##Name(RmModel* model) {                                \
+    if (model) SlotType::DiscardPending(model);                               \
+  }
+
+// The typed accessors of a slot with a pending form.
+#define KVRVIPS_PENDING_SLOT(Name, Type, SlotType)          \
+  KVRVIPS_PENDING_SLOT_BUT_COMMIT(Name, Type, SlotType)     \
+  void vRmModelCommit##Name(RmModel* model) {               \
+    if (model) SlotType::Commit(model);                     \
+  }
+
+KVRVIPS_SINGLE_SLOT(AdmData, RmAdmData, AdmDataSlot)
+KVRVIPS_SINGLE_SLOT(Hyperlinks, RmHyperlinks, HyperlinksSlot)
+KVRVIPS_SINGLE_SLOT(SectTriangulationParams, RmSectTriangulationParams,
+                    SectTriangulationParamsSlot)
+KVRVIPS_PENDING_SLOT(SectParams, RmSectParams, SectParamsSlot)
+KVRVIPS_PENDING_SLOT(RoadDimParams, RmRoadDimParams, RoadDimParamsSlot)
+KVRVIPS_PENDING_SLOT(NrmParams, RmNrmParams, NrmParamsSlot)
+KVRVIPS_SINGLE_SLOT(RoadClassParameters, RmRoadClassParameters, RoadClassParametersSlot)
+KVRVIPS_PENDING_SLOT(SideBoundaries, RmSideBoundaries, SideBoundariesSlot)
+KVRVIPS_PENDING_SLOT(SurfaceBorderLines, RmSurfaceBorderLines, SurfaceBorderLinesSlot)
+KVRVIPS_PENDING_SLOT(ChainData, RmChainData, ChainDataSlot)
+KVRVIPS_PENDING_SLOT(TunnelData, RmTunnelData, TunnelDataSlot)
+KVRVIPS_PENDING_SLOT(TunnelParamData, RmTunnelParamData, TunnelParamDataSlot)
+KVRVIPS_SINGLE_SLOT(TunnelBlocks, RmTunnelBlocks, TunnelBlocksSlot)
+KVRVIPS_SINGLE_SLOT(DitchParamData, RmDitchParamData, DitchParamDataSlot)
+KVRVIPS_SINGLE_SLOT(BimAttributes, RmBimAttributes, BimAttributesSlot)
+
+// The surface tables object: committing it also clears its changed mark.
+KVRVIPS_PENDING_SLOT_BUT_COMMIT(SurfGen, RmSurfGen, SurfGenSlot)
+
+void vRmModelCommitSurfGen(RmModel* model) {
+  if (!model || !model->SurfGenPending) return;
+  SurfGenSlot::Commit(model);
+  vRmSurfGenClearChanged(model->SurfGen);
 }
 
-RmHyperlinks* RmModelGetHyperlinks(const RmModel* model) {
-  return model ? model->Hyperlinks : nullptr;
-}
-
-void vRmModelSetHyperlinks(RmModel* model, RmHyperlinks* links) {
-  if (model) HyperlinksSlot::Replace(&model->Hyperlinks, links);
-}
-
-RmSectTriangulationParams* RmModelGetSectTriangulationParams(const RmModel* model) {
-  return model ? model->SectTriangulationParams : nullptr;
-}
-
-void vRmModelSetSectTriangulationParams(RmModel* model, RmSectTriangulationParams* params) {
-  if (model) SectTriangulationParamsSlot::Replace(&model->SectTriangulationParams, params);
-}
-
-RmSectParams* RmModelGetSectParams(const RmModel* model) {
-  return model ? model->SectParams : nullptr;
-}
-
-void vRmModelSetSectParams(RmModel* model, RmSectParams* params) {
-  if (model) SectParamsSlot::Replace(&model->SectParams, params);
-}
-
-RmSectParams* RmModelGetSectParamsPending(const RmModel* model) {
-  return model ? model->SectParamsPending : nullptr;
-}
-
-RmSectParams* RmModelGetSectParamsEffective(const RmModel* model) {
-  if (!model) return nullptr;
-  return model->SectParamsPending ? model->SectParamsPending : model->SectParams;
-}
-
-RmSectParams* RmModelPrepareSectParams(RmModel* model) {
-  return model ? SectParamsSlot::Prepare(model) : nullptr;
-}
-
-void vRmModelCommitSectParams(RmModel* model) {
-  if (model) SectParamsSlot::Commit(model);
-}
-
-void vRmModelDiscardSectParams(RmModel* model) {
-  if (model) SectParamsSlot::DiscardPending(model);
-}
-
-RmRoadDimParams* RmModelGetRoadDimParams(const RmModel* model) {
-  return model ? model->RoadDimParams : nullptr;
-}
-
-void vRmModelSetRoadDimParams(RmModel* model, RmRoadDimParams* params) {
-  if (model) RoadDimParamsSlot::Replace(&model->RoadDimParams, params);
-}
-
-RmRoadDimParams* RmModelGetRoadDimParamsPending(const RmModel* model) {
-  return model ? model->RoadDimParamsPending : nullptr;
-}
-
-RmRoadDimParams* RmModelGetRoadDimParamsEffective(const RmModel* model) {
-  if (!model) return nullptr;
-  return model->RoadDimParamsPending ? model->RoadDimParamsPending : model->RoadDimParams;
-}
-
-RmRoadDimParams* RmModelPrepareRoadDimParams(RmModel* model) {
-  return model ? RoadDimParamsSlot::Prepare(model) : nullptr;
-}
-
-void vRmModelCommitRoadDimParams(RmModel* model) {
-  if (model) RoadDimParamsSlot::Commit(model);
-}
-
-void vRmModelDiscardRoadDimParams(RmModel* model) {
-  if (model) RoadDimParamsSlot::DiscardPending(model);
-}
-
-RmNrmParams* RmModelGetNrmParams(const RmModel* model) {
-  return model ? model->NrmParams : nullptr;
-}
-
-void vRmModelSetNrmParams(RmModel* model, RmNrmParams* params) {
-  if (model) NrmParamsSlot::Replace(&model->NrmParams, params);
-}
-
-RmNrmParams* RmModelGetNrmParamsPending(const RmModel* model) {
-  return model ? model->NrmParamsPending : nullptr;
-}
-
-RmNrmParams* RmModelGetNrmParamsEffective(const RmModel* model) {
-  if (!model) return nullptr;
-  return model->NrmParamsPending ? model->NrmParamsPending : model->NrmParams;
-}
-
-RmNrmParams* RmModelPrepareNrmParams(RmModel* model) {
-  return model ? NrmParamsSlot::Prepare(model) : nullptr;
-}
-
-void vRmModelCommitNrmParams(RmModel* model) {
-  if (model) NrmParamsSlot::Commit(model);
-}
-
-void vRmModelDiscardNrmParams(RmModel* model) {
-  if (model) NrmParamsSlot::DiscardPending(model);
-}
-
-RmRoadClassParameters* RmModelGetRoadClassParameters(const RmModel* model) {
-  return model ? model->RoadClassParameters : nullptr;
-}
-
-void vRmModelSetRoadClassParameters(RmModel* model, RmRoadClassParameters* params) {
-  if (model) RoadClassParametersSlot::Replace(&model->RoadClassParameters, params);
-}
-
-// ---- The side tables of the root ----
-
-RmSideBoundaries* RmModelGetSideBoundaries(const RmModel* model) {
-  return model ? model->SideBoundaries : nullptr;
-}
-
-void vRmModelSetSideBoundaries(RmModel* model, RmSideBoundaries* boundaries) {
-  if (model) SideBoundariesSlot::Replace(&model->SideBoundaries, boundaries);
-}
-
-RmSideBoundaries* RmModelGetSideBoundariesPending(const RmModel* model) {
-  return model ? model->SideBoundariesPending : nullptr;
-}
-
-RmSideBoundaries* RmModelGetSideBoundariesEffective(const RmModel* model) {
-  if (!model) return nullptr;
-  return model->SideBoundariesPending ? model->SideBoundariesPending : model->SideBoundaries;
-}
-
-RmSideBoundaries* RmModelPrepareSideBoundaries(RmModel* model) {
-  return model ? SideBoundariesSlot::Prepare(model) : nullptr;
-}
-
-void vRmModelCommitSideBoundaries(RmModel* model) {
-  if (model) SideBoundariesSlot::Commit(model);
-}
-
-void vRmModelDiscardSideBoundaries(RmModel* model) {
-  if (model) SideBoundariesSlot::DiscardPending(model);
-}
-
-RmSurfaceBorderLines* RmModelGetSurfaceBorderLines(const RmModel* model) {
-  return model ? model->SurfaceBorderLines : nullptr;
-}
-
-void vRmModelSetSurfaceBorderLines(RmModel* model, RmSurfaceBorderLines* lines) {
-  if (model) SurfaceBorderLinesSlot::Replace(&model->SurfaceBorderLines, lines);
-}
-
-RmSurfaceBorderLines* RmModelGetSurfaceBorderLinesPending(const RmModel* model) {
-  return model ? model->SurfaceBorderLinesPending : nullptr;
-}
-
-RmSurfaceBorderLines* RmModelGetSurfaceBorderLinesEffective(const RmModel* model) {
-  if (!model) return nullptr;
-  return model->SurfaceBorderLinesPending ? model->SurfaceBorderLinesPending
-                                          : model->SurfaceBorderLines;
-}
-
-RmSurfaceBorderLines* RmModelPrepareSurfaceBorderLines(RmModel* model) {
-  return model ? SurfaceBorderLinesSlot::Prepare(model) : nullptr;
-}
-
-void vRmModelCommitSurfaceBorderLines(RmModel* model) {
-  if (model) SurfaceBorderLinesSlot::Commit(model);
-}
-
-void vRmModelDiscardSurfaceBorderLines(RmModel* model) {
-  if (model) SurfaceBorderLinesSlot::DiscardPending(model);
-}
+#undef KVRVIPS_PENDING_SLOT
+#undef KVRVIPS_PENDING_SLOT_BUT_COMMIT
+#undef KVRVIPS_SINGLE_SLOT
 
 // ---- The section sets ----
 
@@ -562,92 +447,4 @@ KVRVIPS_VOCABULARY_SLOT(LSectAnnotationTypes, RmAnnotationTypes, LSectAnnotation
 RmLayerNames* RmModelGetOrCreateLayerNames(RmModel* model) {
   if (model && !model->LayerNames) vRmModelSetLayerNames(model, RmLayerNamesCreate());
   return RmModelGetLayerNames(model);
-}
-
-// ---- The surface tables object ----
-
-RmSurfGen* RmModelGetSurfGen(const RmModel* model) { return model ? model->SurfGen : nullptr; }
-
-void vRmModelSetSurfGen(RmModel* model, RmSurfGen* gen) {
-  if (model) SurfGenSlot::Replace(&model->SurfGen, gen);
-}
-
-RmSurfGen* RmModelGetSurfGenPending(const RmModel* model) {
-  return model ? model->SurfGenPending : nullptr;
-}
-
-RmSurfGen* RmModelGetSurfGenEffective(const RmModel* model) {
-  if (!model) return nullptr;
-  return model->SurfGenPending ? model->SurfGenPending : model->SurfGen;
-}
-
-RmSurfGen* RmModelPrepareSurfGen(RmModel* model) {
-  return model ? SurfGenSlot::Prepare(model) : nullptr;
-}
-
-void vRmModelCommitSurfGen(RmModel* model) {
-  if (!model || !model->SurfGenPending) return;
-  SurfGenSlot::Commit(model);
-  vRmSurfGenClearChanged(model->SurfGen);
-}
-
-void vRmModelDiscardSurfGen(RmModel* model) {
-  if (model) SurfGenSlot::DiscardPending(model);
-}
-
-// ---- Chain data, tunnel and ditch parameters, the BIM store ----
-
-// The operations of a slot with a pending form.
-#define KVRVIPS_PENDING_SLOT(Name, Type, SlotType)                                \
-  Type* RmModelGet##Name(const RmModel* model) {                                  \
-    return model ? model->Name : nullptr;                                         \
-  }                                                                               \
-  void vRmModelSet##Name(RmModel* model, Type* object) {                          \
-    if (model) SlotType::Replace(&model->Name, object);                           \
-  }                                                                               \
-  Type* RmModelGet##Name##Pending(const RmModel* model) {                         \
-    return model ? model->Name##Pending : nullptr;                                \
-  }                                                                               \
-  Type* RmModelGet##Name##Effective(const RmModel* model) {                       \
-    if (!model) return nullptr;                                                   \
-    return model->Name##Pending ? model->Name##Pending : model->Name;             \
-  }                                                                               \
-  Type* RmModelPrepare##Name(RmModel* model) {                                    \
-    return model ? SlotType::Prepare(model) : nullptr;                            \
-  }                                                                               \
-  void vRmModelCommit##Name(RmModel* model) {                                     \
-    if (model) SlotType::Commit(model);                                           \
-  }                                                                               \
-  void vRmModelDiscard##Name(RmModel* model) {                                    \
-    if (model) SlotType::DiscardPending(model);                                   \
-  }
-
-KVRVIPS_PENDING_SLOT(ChainData, RmChainData, ChainDataSlot)
-KVRVIPS_PENDING_SLOT(TunnelData, RmTunnelData, TunnelDataSlot)
-KVRVIPS_PENDING_SLOT(TunnelParamData, RmTunnelParamData, TunnelParamDataSlot)
-
-#undef KVRVIPS_PENDING_SLOT
-
-RmTunnelBlocks* RmModelGetTunnelBlocks(const RmModel* model) {
-  return model ? model->TunnelBlocks : nullptr;
-}
-
-void vRmModelSetTunnelBlocks(RmModel* model, RmTunnelBlocks* blocks) {
-  if (model) TunnelBlocksSlot::Replace(&model->TunnelBlocks, blocks);
-}
-
-RmDitchParamData* RmModelGetDitchParamData(const RmModel* model) {
-  return model ? model->DitchParamData : nullptr;
-}
-
-void vRmModelSetDitchParamData(RmModel* model, RmDitchParamData* data) {
-  if (model) DitchParamDataSlot::Replace(&model->DitchParamData, data);
-}
-
-RmBimAttributes* RmModelGetBimAttributes(const RmModel* model) {
-  return model ? model->BimAttributes : nullptr;
-}
-
-void vRmModelSetBimAttributes(RmModel* model, RmBimAttributes* store) {
-  if (model) BimAttributesSlot::Replace(&model->BimAttributes, store);
 }
