@@ -14,7 +14,6 @@
 #include "road_model/model/model.h"
 #include "tests/support/model_ptr.h"
 
-
 // The lines, each ended by CR LF.
 inline std::string sCrLf(const std::vector<std::string>& lines) {
   std::string text;
@@ -90,11 +89,11 @@ inline ModelPtr ReadModel(const std::string& bytes) {
 
 // A model file of DATAVERSION `version` holding these O sections, each with
 // its body, in this order.
-inline std::string sModelFileOf(
-    int version, const std::vector<std::pair<std::string, std::string>>& sections) {
-  std::string head = sCrLf({"[KVRFILE_ASCII]", "_VERSION 2", "_FILETYPE sfi",
-                            "_INDEX !!!!!!!!!!!!!!!!!!!!", sEmptyExtentLine(),
-                            "DATAVERSION " + std::to_string(version)});
+inline std::string sModelFileOf(int version,
+                                const std::vector<std::pair<std::string, std::string>>& sections) {
+  std::string head =
+      sCrLf({"[KVRFILE_ASCII]", "_VERSION 2", "_FILETYPE sfi", "_INDEX !!!!!!!!!!!!!!!!!!!!",
+             sEmptyExtentLine(), "DATAVERSION " + std::to_string(version)});
   std::string bodies;
   for (const auto& [name, body] : sections) {
     head += "[O_" + name + "]\r\n";
@@ -103,12 +102,20 @@ inline std::string sModelFileOf(
   return head + bodies + "[END]\r\n";
 }
 
+// A section as a file of DATAVERSION `Version` holds it, and as a model
+// writes it back after reading it, for tables of such cases.
+struct SectionRewrite {
+  const char* Name;
+  std::vector<std::string> Read;
+  std::vector<std::string> Written;
+  int Version = 13;
+};
+
 // The body of section `name` as a model writes it back after reading a file
 // of `version` whose only section is `name` with these lines: "<none>" when
 // the model writes no such section, "<refused>" when the file was refused.
 inline std::string sSectionWrittenBack(const std::string& name,
-                                       const std::vector<std::string>& lines,
-                                       int version = 13) {
+                                       const std::vector<std::string>& lines, int version = 13) {
   ModelPtr model = ReadModel(sModelFileOf(version, {{name, sCrLf(lines)}}));
   if (!model) return "<refused>";
   return sSectionBody(sWrittenModel(model.get()), name);

@@ -14,13 +14,7 @@
 
 namespace {
 
-struct SectionCase {
-  const char* Name;
-  std::initializer_list<std::string> Read;
-  std::initializer_list<std::string> Written;
-};
-
-const SectionCase kCases[] = {
+const SectionRewrite kCases[] = {
     {"SPECIALGRADINGS",
      {" 1 1.0 2 2.0", ":SPECIALGRADINGCHAIN 200", " 30101 1.5 30201 2.5",
       ":SPECIALGRADINGCHAIN 100.5", " -30101 -3", "UNKNOWN 4", " 9 9 9 9", ":SPECIALGRADINGCHAIN"},
@@ -61,8 +55,9 @@ const SectionCase kCases[] = {
 }  // namespace
 
 TEST(GradingRecords, SectionsAreWrittenBackInTheModelsOrderWithoutWhatCannotBeRead) {
-  for (const SectionCase& section : kCases) {
-    EXPECT_EQ(sSectionWrittenBack(section.Name, section.Read), sCrLf(section.Written))
+  for (const SectionRewrite& section : kCases) {
+    EXPECT_EQ(sSectionWrittenBack(section.Name, section.Read, section.Version),
+              sCrLf(section.Written))
         << section.Name;
   }
 }

@@ -17,16 +17,10 @@
 
 namespace {
 
-struct SectionCase {
-  const char* Name;
-  std::initializer_list<std::string> Read;
-  std::initializer_list<std::string> Written;
-};
-
-const SectionCase kCases[] = {
+const SectionRewrite kCases[] = {
     {"SIDEBOUNDARIES",
-     {" 1 2 3 4", ":RIGHTSIDE", " 20 0 1.5 0", " 10 30105", ":GROUPEND", " 5 5 5 5",
-      ":LEFTSIDE", " 7 -30105 -2 6"},
+     {" 1 2 3 4", ":RIGHTSIDE", " 20 0 1.5 0", " 10 30105", ":GROUPEND", " 5 5 5 5", ":LEFTSIDE",
+      " 7 -30105 -2 6"},
      // Left first, rows by chainage; a row before a side or behind another
      // line has no side; a code or alignment of 0 or left out is absent, a
      // distance left out 0.
@@ -55,8 +49,9 @@ const SectionCase kCases[] = {
 }  // namespace
 
 TEST(SideTableRecords, SectionsAreWrittenBackInTheModelsOrderWithoutWhatCannotBeRead) {
-  for (const SectionCase& section : kCases) {
-    EXPECT_EQ(sSectionWrittenBack(section.Name, section.Read), sCrLf(section.Written))
+  for (const SectionRewrite& section : kCases) {
+    EXPECT_EQ(sSectionWrittenBack(section.Name, section.Read, section.Version),
+              sCrLf(section.Written))
         << section.Name;
   }
 }
