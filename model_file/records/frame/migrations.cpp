@@ -15,6 +15,7 @@
 #include "road_model/tables/side_boundaries.h"
 #include "road_model/tables/special_gradings.h"
 #include "road_model/tables/surface_border_lines.h"
+#include "section_geometry/locked_masses.h"
 
 namespace {
 
@@ -71,13 +72,13 @@ void vMoveBorderLinesIntoFirstGroup(RmModel* model) {
   vRmModelSetSurfaceBorderLines(model, nullptr);
 }
 
-// Locked sections of such files are to be rebuilt before they are locked
-// again. The rebuilding is the section builder's, which this library does
-// not carry; the model is marked dirty so that the next save writes the
+// Locked sections of such files are rebuilt before they are locked again,
+// as far as this library can rebuild a section: their masses, outlines and
+// generated layers are made anew (section_geometry/locked_masses.h); their
+// layers from the design stay, since building those is the section
+// builder's. The model is marked dirty so that the next save writes the
 // sections in the current form.
-void vMarkLockedForRebuild(RmModel* model) {
-  if (boRmSectionSetHasLocked(RmModelGetCrossSections(model))) vRmModelSetDirty(model, true);
-}
+void vRebuildLockedSections(RmModel* model) { vRmModelRebuildLockedSections(model); }
 
 bool boUnplaced(const RmSection* section) {
   return section->ClX == 0.0 && section->ClY == 0.0 && section->LeftDist == 0.0f &&
@@ -128,8 +129,8 @@ constexpr Migration kMigrations[] = {
     // version 0. Needs every table that holds PCODEs: the section sets, the
     // surface groups, the special gradings and the side boundaries.
     {0, 0, vRewriteAllOldCodes},
-    // Needs the cross sections.
-    {INT_MIN, 2, vMarkLockedForRebuild},
+    // Needs the cross sections and their mass types.
+    {INT_MIN, 2, vRebuildLockedSections},
     // Needs the plan lines (the centre line), SECTPARAMS and the cross
     // sections.
     {INT_MIN, 3, vPlaceUnplacedSections},

@@ -20,6 +20,7 @@
 #include "road_model/surfaces/surf_gen.h"
 #include "road_model/tables/chain_range_table.h"
 #include "road_model/tables/special_gradings.h"
+#include "section_geometry/locked_masses.h"
 
 namespace {
 
@@ -109,6 +110,8 @@ void vRmModelRead(AsfFile* file, RmModel* model, const char* path) {
         AsfSectionFind(file, family->Keyword, iAsfTypeOfLetter(family->Letter));
     if (section) family->Read(file, section, model, *family);
   }
+  // The masses of locked sections are those of their layers as read.
+  vRmModelComputeLockedMasses(model);
   vRmModelMigrate(model);
   vClearUnusedSuperstructureMode(model);
   if (loadCallback) loadCallback(model);
