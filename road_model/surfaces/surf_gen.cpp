@@ -8,6 +8,7 @@
 #include "road_model/tables/closed_ditches.h"
 #include "road_model/tables/erosion_protections.h"
 #include "road_model/tables/landscapings.h"
+#include "road_model/tables/pavement.h"
 #include "road_model/tables/special_gradings.h"
 #include "road_model/tables/string_lines.h"
 #include "road_model/tables/vips_special_gradings.h"
@@ -52,8 +53,7 @@ constexpr TableType ChainRangeType() {
                 vRmChainRangeTableCopy, boRmChainRangeTableHasRows>();
 }
 
-// One row per slot, in slot order. The pavement table's type is not carried
-// yet: its slot stays empty.
+// One row per slot, in slot order.
 constexpr TableType kTypes[kRmSurfGenSlotCount] = {
     TypeOf<RmSurfaceGroups, RmSurfaceGroupsCreate, vRmSurfaceGroupsDelete,
            vRmSurfaceGroupsCopy, boRmSurfaceGroupsHasRows>(),
@@ -61,7 +61,8 @@ constexpr TableType kTypes[kRmSurfGenSlotCount] = {
     ChainRangeType<&kRmMinDitchDepths>(),
     TypeOf<RmLandscapings, RmLandscapingsCreate, vRmLandscapingsDelete, vRmLandscapingsCopy,
            boRmLandscapingsHasRows>(),
-    TableType{},
+    TypeOf<RmPavement, RmPavementCreate, vRmPavementDelete, vRmPavementCopy,
+           boRmPavementHasRows>(),
     ChainRangeType<&kRmStoneExcavationSlopes>(),
     ChainRangeType<&kRmDeepRockBlasts>(),
     ChainRangeType<&kRmFillDitches>(),

@@ -12,6 +12,7 @@
 #include "road_model/sections/section_set.h"
 #include "road_model/surfaces/surf_gen.h"
 #include "road_model/surfaces/surface_groups.h"
+#include "road_model/tables/pavement_packages.h"
 #include "road_model/tables/side_boundaries.h"
 #include "road_model/tables/special_gradings.h"
 #include "road_model/tables/surface_border_lines.h"
@@ -42,6 +43,7 @@ void vRewriteAllOldCodes(RmModel* model) {
   const RmSurfGen* gen = RmModelGetSurfGen(model);
   vRmSurfaceGroupsMapCodes(RmSurfGenGet<kRmSurfaceGroupsSlot>(gen), iRmPcodeFromOldForm);
   vRmSpecialGradingsMapCodes(RmSurfGenGet<kRmSpecialGradingsSlot>(gen), iRmPcodeFromOldForm);
+  vRmPavementMapCodes(RmSurfGenGet<kRmPavementSlot>(gen), iRmPcodeFromOldForm);
   vRmSideBoundariesMapCodes(RmModelGetSideBoundaries(model), iRmPcodeFromOldForm);
 }
 
@@ -49,6 +51,11 @@ void vRewriteAllOldCodes(RmModel* model) {
 // held in its place were offsets from the centre.
 void vStartGroupsAtOffsets(RmModel* model) {
   vRmSurfaceGroupsStartAtOffsets(RmSurfGenGet<kRmSurfaceGroupsSlot>(RmModelGetSurfGen(model)));
+}
+
+// Pavement packages of such files knew fewer layer positions.
+void vMoveOldPavementPositions(RmModel* model) {
+  vRmPavementMoveOldPositions(RmSurfGenGet<kRmPavementSlot>(RmModelGetSurfGen(model)));
 }
 
 // Models of such files built without CALCMODE kept the border lines of the
@@ -127,7 +134,8 @@ void vSplitOldNrmParams(RmModel* model) { vNrmParamsSplitOldParams(RmModelGetNrm
 constexpr Migration kMigrations[] = {
     // Version 0 alone (a file without the key): a negative version is no
     // version 0. Needs every table that holds PCODEs: the section sets, the
-    // surface groups, the special gradings and the side boundaries.
+    // surface groups, the pavement, the special gradings and the side
+    // boundaries.
     {0, 0, vRewriteAllOldCodes},
     // Needs the cross sections and their mass types.
     {INT_MIN, 2, vRebuildLockedSections},
@@ -141,6 +149,8 @@ constexpr Migration kMigrations[] = {
     {INT_MIN, 8, vSplitOldNrmParams},
     // Needs the surface groups.
     {INT_MIN, 8, vStartGroupsAtOffsets},
+    // Needs the pavement.
+    {INT_MIN, 10, vMoveOldPavementPositions},
     // Needs MASSCALC, the model's border lines and the surface groups.
     {INT_MIN, 11, vMoveBorderLinesIntoFirstGroup},
     // Needs both lists of annotation types.

@@ -21,9 +21,11 @@
 #include "model_file/records/tables/closed_ditches_record.h"
 #include "model_file/records/tables/erosion_protections_record.h"
 #include "model_file/records/tables/landscapings_record.h"
+#include "model_file/records/tables/pavement_record.h"
 #include "model_file/records/tables/side_boundaries_record.h"
 #include "model_file/records/tables/special_gradings_record.h"
 #include "model_file/records/tables/string_lines_record.h"
+#include "model_file/records/tables/superstruct_record.h"
 #include "model_file/records/tables/surface_border_lines_record.h"
 #include "model_file/records/tables/vips_special_gradings_record.h"
 #include "model_file/records/tunnel/ditch_param_data_record.h"
@@ -73,6 +75,7 @@ constexpr const RmRecordFamily* kWriteOrder[] = {
     &kRmRockBenchesFamily,
     &kRmMinDitchDepthsFamily,
     &kRmLandscapingsFamily,
+    &kRmPavementFamily,
     &kRmStoneExcavationSlopesFamily,
     &kRmDeepRockBlastsFamily,
     &kRmSideBoundariesFamily,
@@ -130,6 +133,11 @@ constexpr const RmRecordFamily* kReadOrder[] = {
     &kRmRockBenchesFamily,
     &kRmMinDitchDepthsFamily,
     &kRmLandscapingsFamily,
+    // The older pavement section is read only when PAVEMENT gave no table;
+    // the stone excavation slopes that it makes give way to a section of
+    // their own.
+    &kRmPavementFamily,
+    &kRmSuperstructFamily,
     &kRmStoneExcavationSlopesFamily,
     &kRmDeepRockBlastsFamily,
     &kRmSideBoundariesFamily,

@@ -9,6 +9,7 @@
 #include "model_file/records/surfaces/surf_gen_record.h"
 #include "model_file/records/tables/chain_range_families.h"
 #include "model_file/records/tables/closed_ditches_record.h"
+#include "model_file/records/tables/pavement_record.h"
 #include "model_file/records/tables/side_boundaries_record.h"
 #include "model_file/records/tables/surface_border_lines_record.h"
 #include "model_file/records/tables/vips_special_gradings_record.h"
@@ -35,6 +36,7 @@ TEST(SectionClipboard, EveryPairPastesWhatWasCopied) {
       {&kRmClosedDitchesFamily, "side_tables.sfi"},
       {&kRmFillDitchesFamily, "chain_range_tables.sfi"},
       {&kRmVipsSpecialGradingsFamily, "gradings.sfi"},
+      {&kRmPavementFamily, "pavement.sfi"},
   };
   for (const PairCase& c : cases) {
     ModelPtr source = ReadModel(
