@@ -55,6 +55,18 @@ void vRmLayerRenumber(RmLayer* layer, const RmLayer* reference, double tol) {
   vRmLayerEnforceCodeOrder(layer);
 }
 
+void vRmLayerCodesFromLine(RmLayer* layer, const RmLayer* line, double tol) {
+  if (!layer || !RmPointsGetFirst(layer)) return;
+  RmPoint* start = RmPointFindXFromLeft(layer, 0.0);
+  const bool bothSides = start != nullptr;
+  if (!bothSides) start = RmPointsGetLast(layer);
+  const int side = bothSides ? kRmSideRight : kRmSideLeft;
+  vTakeCode(start, line, tol, iRmPcodeBuildSide(0, 0, 1, side), 0);
+  vNumberOutward(start, side, line, tol);
+  if (bothSides) vNumberOutward(start, kRmSideLeft, line, tol);
+  vRmLayerEnforceCodeOrder(layer);
+}
+
 void vRmLayerEnforceCodeOrder(RmLayer* layer) {
   if (!RmPointsGetFirst(layer)) return;
   if (boRmLayerIsClosed(layer)) {

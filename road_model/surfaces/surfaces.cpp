@@ -38,6 +38,11 @@ RmSurface* RmSurfaceAdd(RmSurfaceGroup* group, int32_t number) {
   if (!group) return nullptr;
   RmSurface* before = RmSurfacesGetFirst(group);
   while (before && before->Number <= number) before = before->Next;
+  return RmSurfaceAddAt(group, before, number);
+}
+
+RmSurface* RmSurfaceAddAt(RmSurfaceGroup* group, RmSurface* before, int32_t number) {
+  if (!group) return nullptr;
   auto* surface = DLinkNewObjAs<RmSurface>(&group->Surfaces, before);
   if (!surface) return nullptr;
   DLinkInit(&surface->Rows, sizeof(RmSurfaceRow), nullptr);
@@ -151,6 +156,13 @@ int iRmSurfaceRowsGetIndexOf(const RmSurface* surface, const RmSurfaceRow* row) 
 RmSurfaceRow* RmSurfaceRowAdd(RmSurface* surface, double chain) {
   if (!surface) return nullptr;
   RmSurfaceRow* before = RmSurfaceRowFindFrom(surface, chain);
+  auto* row = DLinkNewObjAs<RmSurfaceRow>(&surface->Rows, before);
+  if (row) row->Chain = chain;
+  return row;
+}
+
+RmSurfaceRow* RmSurfaceRowAddBefore(RmSurface* surface, RmSurfaceRow* before, double chain) {
+  if (!surface) return nullptr;
   auto* row = DLinkNewObjAs<RmSurfaceRow>(&surface->Rows, before);
   if (row) row->Chain = chain;
   return row;

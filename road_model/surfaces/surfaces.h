@@ -45,6 +45,9 @@ RmSurface* RmSurfaceFind(const RmSurfaceGroup* group, int32_t number);
 // A new surface without rows, in front of the first one of a greater
 // number (behind those of the same number). Null when memory ran out.
 RmSurface* RmSurfaceAdd(RmSurfaceGroup* group, int32_t number);
+// A new surface without rows in front of `before` (null: at the end),
+// without a check of the order.
+RmSurface* RmSurfaceAddAt(RmSurfaceGroup* group, RmSurface* before, int32_t number);
 // Replaces rows, description and numbers of `to` by those of `from`.
 void vRmSurfaceCopy(RmSurface* to, const RmSurface* from);
 // Takes the surface out of its group and deletes it with its rows.
@@ -77,6 +80,9 @@ int iRmSurfaceRowsGetIndexOf(const RmSurface* surface, const RmSurfaceRow* row);
 // A new row in front of the first one at `chain` or later, so that it comes
 // ahead of a row of equal chainage; only its chainage is set.
 RmSurfaceRow* RmSurfaceRowAdd(RmSurface* surface, double chain);
+// A new row in front of `before` (null: at the end), without a check of the
+// order; only its chainage is set.
+RmSurfaceRow* RmSurfaceRowAddBefore(RmSurface* surface, RmSurfaceRow* before, double chain);
 // A new row behind every row up to `chain`, those of equal chainage
 // included, as a file lists them; only its chainage is set.
 RmSurfaceRow* RmSurfaceRowAddBehind(RmSurface* surface, double chain);
