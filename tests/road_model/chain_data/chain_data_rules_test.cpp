@@ -9,23 +9,7 @@
 #include "road_model/chain_data/chain_data_apply.h"
 #include "road_model/chain_data/chain_data_near_line.h"
 #include "road_model/chain_data/chain_data_types.h"
-
-namespace {
-
-struct ChainDataDeleter {
-  void operator()(RmChainData* data) const { vRmChainDataDelete(&data); }
-};
-using ChainDataPtr = std::unique_ptr<RmChainData, ChainDataDeleter>;
-
-RmChainDataRow* AddRow(RmChainDataLine* line, double x, double y, const char* code = "") {
-  RmChainDataRow* row = RmChainDataRowAdd(line);
-  row->X = x;
-  row->Y = y;
-  std::strcpy(row->Code, code);
-  return row;
-}
-
-}  // namespace
+#include "tests/road_model/chain_data/chain_data_test_util.h"
 
 TEST(ChainDataRules, ARowTakesThePlanLabelPlacementAndTheFieldDefaultsOfItsType) {
   ChainDataPtr data(RmChainDataCreate());
