@@ -2,12 +2,14 @@
 
 #include <cmath>
 #include <cstdint>
+#include <initializer_list>
 #include <random>
 
 #include "model_file/records/frame/model_write.h"
 #include "road_model/model/model.h"
 #include "road_model/model/model_parts.h"
 #include "road_model/codes/pcode.h"
+#include "road_model/names/mass_types.h"
 #include "road_model/sections/section_masses.h"
 #include "road_model/sections/section_set.h"
 
@@ -56,13 +58,44 @@ void vAddSection(RmSectionSet* set, int index, const BenchModelShape& shape,
   section->RightDist = 20.0f;
   section->Direction = -0.643501;
   if (index % 3 == 0) vRmSectionSetClipDist(section, kRmSideLeft, true, 17.5);
-  for (int mass = 1; mass <= 2; ++mass) {
+  if (shape.Locked) vRmSectionSetFlag(section, kRmSectionLocked, true);
+  const int masses = shape.Locked ? kBenchMassTypes : 2;
+  for (int mass = 1; mass <= masses; ++mass) {
     RmMass* added = RmMassAdd(section, mass);
     if (added) added->Area = dFourDecimals(10.0 * mass + index % 17 * 0.1234);
   }
   for (int layer = 0; layer < shape.LayersPerSection; ++layer) {
     vAddLayer(section, layer, shape.PointsPerLayer, random);
   }
+}
+
+void vAddLayers(RmLayerList* list, std::initializer_list<int> indices) {
+  for (int index : indices) RmLayerListAdd(list, LayerIdAt(index));
+}
+
+// Three areas between layers (one upper group of two layers), the length of
+// the top layer and a value composed of the areas. Layer k lies 0.35 m
+// below layer k - 1.
+RmMassTypes* BenchMassTypesCreate() {
+  RmMassTypes* types = RmMassTypesCreate(kRmMassTypesCross);
+  RmMassType* cut = RmMassTypeAdd(types, 1);
+  vAddLayers(&cut->FromLayers, {0});
+  vAddLayers(&cut->ToLayers, {1});
+  RmMassType* deep = RmMassTypeAdd(types, 2);
+  vAddLayers(&deep->FromLayers, {2});
+  vAddLayers(&deep->ToLayers, {5});
+  RmMassType* grouped = RmMassTypeAdd(types, 3);
+  vAddLayers(&grouped->FromLayers, {6, 7});
+  vAddLayers(&grouped->ToLayers, {9});
+  RmMassType* top = RmMassTypeAdd(types, 4);
+  top->CalcType = 1;
+  vAddLayers(&top->AreaLayers, {0});
+  RmMassType* composed = RmMassTypeAdd(types, 5);
+  composed->ComposedType = 2;
+  vRmMassNumbersAdd(&composed->FromMasses, 1);
+  vRmMassNumbersAdd(&composed->FromMasses, 2);
+  vRmMassNumbersAdd(&composed->ToMasses, 3);
+  return types;
 }
 
 }  // namespace
@@ -75,6 +108,7 @@ RmModel* RmBenchModelCreate(const BenchModelShape& shape) {
   for (int index = 0; set && index < shape.Sections; ++index) {
     vAddSection(set, index, shape, &random);
   }
+  if (shape.MassTypes) vRmModelSetCSectMassTypes(model, BenchMassTypesCreate());
   return model;
 }
 

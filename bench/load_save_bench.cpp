@@ -5,9 +5,11 @@
 //   kvrvips_load_save_bench [benchmark flags] [MODEL_FILE]
 //
 // The model file (default "bench_model.sfi" in the current directory) is
-// generated first: 20,000 cross sections with 10 layers of 30 points. After
-// the benchmarks the program prints the ratios of load and save to the
-// baseline, the size of the file and the peak memory of the process.
+// generated first: 20,000 cross sections with 10 layers of 30 points. Two
+// more files beside it hold the same sections locked, one with the five
+// mass types whose masses a load then computes. After the benchmarks the
+// program prints the ratios of load and save to the baseline, the size of
+// the file, the peak memory of the process and the cost of the masses.
 #include <benchmark/benchmark.h>
 #include <sys/resource.h>
 
@@ -69,6 +71,24 @@ void BM_Load(benchmark::State& state) {
   }
 }
 
+// Locked sections with and without their mass types: with them, a load
+// computes the five masses of every section.
+std::string lockedPath = "bench_model_locked.sfi";
+std::string massesPath = "bench_model_masses.sfi";
+
+void vLoadEach(benchmark::State& state, const std::string& path) {
+  for (auto _ : state) {
+    RmModel* model = RmModelCreate();
+    if (!boRmModelLoad(model, path.c_str())) state.SkipWithError("the load failed");
+    state.PauseTiming();
+    vRmModelDelete(model);
+    state.ResumeTiming();
+  }
+}
+
+void BM_LoadLocked(benchmark::State& state) { vLoadEach(state, lockedPath); }
+void BM_LoadLockedMasses(benchmark::State& state) { vLoadEach(state, massesPath); }
+
 void BM_Save(benchmark::State& state) {
   RmModel* model = RmModelCreate();
   if (!boRmModelLoad(model, modelPath.c_str())) {
@@ -85,6 +105,8 @@ void BM_Save(benchmark::State& state) {
 BENCHMARK(BM_Baseline)->Unit(benchmark::kMillisecond)->Iterations(3);
 BENCHMARK(BM_Load)->Unit(benchmark::kMillisecond)->Iterations(3);
 BENCHMARK(BM_Save)->Unit(benchmark::kMillisecond)->Iterations(3);
+BENCHMARK(BM_LoadLocked)->Unit(benchmark::kMillisecond)->Iterations(3);
+BENCHMARK(BM_LoadLockedMasses)->Unit(benchmark::kMillisecond)->Iterations(3);
 
 // Keeps the time per iteration of each benchmark beside the usual output.
 class RecordingReporter : public benchmark::ConsoleReporter {
@@ -122,6 +144,17 @@ int main(int argc, char** argv) {
     std::fprintf(stderr, "could not write %s\n", modelPath.c_str());
     return 1;
   }
+  lockedPath = modelPath + ".locked";
+  massesPath = modelPath + ".masses";
+  BenchModelShape locked;
+  locked.Locked = true;
+  BenchModelShape masses = locked;
+  masses.MassTypes = true;
+  if (!boRmBenchModelWrite(lockedPath.c_str(), locked) ||
+      !boRmBenchModelWrite(massesPath.c_str(), masses)) {
+    std::fprintf(stderr, "could not write the files of locked sections\n");
+    return 1;
+  }
   RecordingReporter reporter;
   benchmark::RunSpecifiedBenchmarks(&reporter);
   benchmark::Shutdown();
@@ -140,6 +173,16 @@ int main(int argc, char** argv) {
     std::printf("save / baseline     %.2f\n", save / baseline);
   }
   std::printf("peak memory         %.1f MB\n", double(usage.ru_maxrss) / 1024.0);
+  double lockedLoad = reporter.dSeconds("BM_LoadLocked/");
+  double massesLoad = reporter.dSeconds("BM_LoadLockedMasses");
+  if (lockedLoad > 0.0 && massesLoad > 0.0) {
+    double perSection = (massesLoad - lockedLoad) / BenchModelShape{}.Sections;
+    std::printf("masses / locked load %.2f\n", (massesLoad - lockedLoad) / lockedLoad);
+    std::printf("masses per section   %.1f us, per mass type %.1f us\n", perSection * 1e6,
+                perSection * 1e6 / kBenchMassTypes);
+  }
   std::remove(savePath.c_str());
+  std::remove(lockedPath.c_str());
+  std::remove(massesPath.c_str());
   return 0;
 }

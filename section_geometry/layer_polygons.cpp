@@ -161,8 +161,18 @@ YgPolygon* PartRectangles(const YgPolygon* polygon, const ViExtent& box) {
   return rectangles;
 }
 
-bool boPartsSpanBox(const YgPolygon* polygon, const ViExtent& box) {
-  const std::vector<Range> ranges = MergedPartRanges(polygon);
-  return ranges.size() == 1 && ranges.front().first <= box.dMinX &&
-         ranges.front().second >= box.dMaxX;
+void vAddGapRectangles(YgPolygon* polygon, const ViExtent& box) {
+  double from = box.dMinX;
+  const auto addGap = [&](double to) {
+    if (!(from < to)) return;
+    vAddPoint(polygon, true, from, box.dMinY);
+    LiLineAddP2d(polygon, to, box.dMinY);
+    LiLineAddP2d(polygon, to, box.dMaxY);
+    LiLineAddP2d(polygon, from, box.dMaxY);
+  };
+  for (const Range& range : MergedPartRanges(polygon)) {
+    addGap(std::min(range.first, box.dMaxX));
+    from = std::max(from, range.second);
+  }
+  addGap(box.dMaxX);
 }

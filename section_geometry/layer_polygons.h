@@ -44,5 +44,7 @@ YgPolygon* LayerListPolygon(const RmSection* section, const RmLayerList* list, i
 // empty polygon.
 YgPolygon* PartRectangles(const YgPolygon* polygon, const ViExtent& box);
 
-// Whether the parts of `polygon` cover the box's x range without a gap.
-bool boPartsSpanBox(const YgPolygon* polygon, const ViExtent& box);
+// Adds a rectangle over the whole height of the box wherever, in the box's x
+// range, no part of `polygon` stands. The rectangles touch the parts at
+// most, so that the polygon's area stays the union of both.
+void vAddGapRectangles(YgPolygon* polygon, const ViExtent& box);

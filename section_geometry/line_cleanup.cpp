@@ -73,7 +73,11 @@ bool boSpikePass(LiLine* line, LiElm part, double area, double* removedArea) {
     vLiElmGetP2d(line, before, &previous);
     vLiElmGetP2d(line, after, &next);
     bool remove = boViIsCommonPoint(point, previous);
-    if (!remove) {
+    // A fold needs both neighbours on the same side of the point: most
+    // points fail this before any root is taken.
+    const double dot =
+        (previous.x - point.x) * (next.x - point.x) + (previous.y - point.y) * (next.y - point.y);
+    if (!remove && dot > 0.0) {
       const double a = dDistance(point, previous);
       const double b = dDistance(point, next);
       if (a > kSgSpikeSideLength && b > kSgSpikeSideLength &&

@@ -66,7 +66,26 @@ LiLine* LineNormalise(const LiLine* line) {
   return result;
 }
 
+namespace {
+
+// Whether the parts already stand in normal order: each starts at its
+// leftmost lowest point, and their starts rise in x.
+bool boIsNormal(const LiLine* line) {
+  double lastX = -1e300;
+  for (LiElm part = PartFirst(line); part != kLiNoElm; part = PartNext(line, part)) {
+    if (LineFindLeftmost(line, part) != part) return false;
+    ViPoint2d point;
+    vLiElmGetP2d(line, part, &point);
+    if (point.x < lastX) return false;
+    lastX = point.x;
+  }
+  return true;
+}
+
+}  // namespace
+
 void vPolygonNormalise(LiLine* polygon) {
+  if (boIsNormal(polygon)) return;
   LiLine* normal = LineNormalise(polygon);
   if (!normal) return;
   const std::string guid = sLiLineGetGuid(polygon);

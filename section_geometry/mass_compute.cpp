@@ -79,8 +79,10 @@ void vStoreShapes(RmMass* mass, LiLine* exact, LiLine* approx, int keepShape, bo
 void vComputeArea(RmModel* model, int massId, RmSection* section, const RmMassTypes* massTypes,
                   const RmMassType* massType, RmMass* mass, int keepShape) {
   YgPolygon* exact = MassPolygon(model, section, massTypes, massType, 1);
+  // Without a minimum thickness no thin part is removed, and the outline
+  // without that removal is the exact one: it is not made twice.
   YgPolygon* approx = nullptr;
-  if (exact && (massType->GenerateLayer != 0 || keepShape)) {
+  if (exact && (massType->GenerateLayer != 0 || keepShape) && massType->MinThickness > 0.0) {
     approx = MassPolygon(model, section, massTypes, massType, 0);
   }
   if (!exact) {
@@ -105,8 +107,8 @@ void vComputeArea(RmModel* model, int massId, RmSection* section, const RmMassTy
     mass->Area = area;
     mass->CentroidOffset = centroid;
   }
-  if (approx && massType->GenerateLayer != 0) {
-    vGeneratedLayerBuild(section, massType->Number, approx);
+  if (massType->GenerateLayer != 0) {
+    vGeneratedLayerBuild(section, massType->Number, approx ? approx : exact);
   }
   vStoreShapes(mass, exact, approx, keepShape, absolute);
 }

@@ -4,6 +4,7 @@
 
 #include "road_model/names/mass_types.h"
 #include "road_model/sections/section.h"
+#include "section_geometry/layer_band.h"
 #include "section_geometry/layer_polygons.h"
 #include "section_geometry/line_cleanup.h"
 #include "section_geometry/line_parts.h"
@@ -19,19 +20,6 @@ void vClipInPlace(YgPolygon** polygon, const YgPolygon* other, int operation) {
   YgPolygon* clipped = pYgPolygonPolygonClipAndSortPartsForIslands(*polygon, other, operation, 1);
   vYgPolygonDelete(polygon);
   *polygon = clipped;
-}
-
-// Where the upper layers are missing, the room above them takes the whole
-// height of the box.
-void vFillUpperGaps(YgPolygon** upper, const ViExtent& box) {
-  if (boPartsSpanBox(*upper, box)) return;
-  YgPolygon* rectangles = PartRectangles(*upper, box);
-  YgPolygon* frame = BoxPolygon(box);
-  YgPolygon* gaps = pYgPolygonPolygonClip(frame, rectangles, kYgClipDifference);
-  if (gaps) vClipInPlace(upper, gaps, kYgClipUnion);
-  vYgPolygonDelete(&gaps);
-  vYgPolygonDelete(&frame);
-  vYgPolygonDelete(&rectangles);
 }
 
 // A long section measures along the road: the frame of the type's chain
@@ -102,6 +90,40 @@ void vRemoveThinParts(YgPolygon* polygon, double thickness) {
   }
 }
 
+// The lower room less the upper room, by clipping.
+YgPolygon* ClippedRoom(const RmSection* section, const RmMassType* massType,
+                       const ViExtent& box, double lift) {
+  YgPolygon* upper = LayerListPolygon(section, &massType->FromLayers, massType->FromLayers.Join,
+                                      kSgCloseToTop, box, lift);
+  YgPolygon* lower = LayerListPolygon(section, &massType->ToLayers, massType->ToLayers.Join,
+                                      kSgCloseToTop, box, 0.0);
+  YgPolygon* result = nullptr;
+  if (upper && lower) {
+    // Where the upper layers are missing, the room above them takes the
+    // whole height of the box: no mass arises there.
+    vAddGapRectangles(upper, box);
+    result = pYgPolygonPolygonClipAndSortPartsForIslands(lower, upper, kYgClipDifference, 1);
+  }
+  vYgPolygonDelete(&upper);
+  vYgPolygonDelete(&lower);
+  return result;
+}
+
+// The single layer of a list, when it is one run; null otherwise.
+const RmLayer* SingleRunOf(const RmSection* section, const RmLayerList* list) {
+  const RmLayerListEntry* entry = RmLayerListGetFirst(list);
+  if (!entry || entry->Next) return nullptr;
+  const RmLayer* layer = RmLayerFind(section, entry->Id);
+  return boLayerIsSingleRun(layer) ? layer : nullptr;
+}
+
+// Most masses lie between one upper and one lower layer that each run once
+// across the section: their room is taken directly (layer_band.h), and
+// clipping is left to the others.
+bool boIsBand(const RmSection* section, const RmMassType* massType) {
+  return SingleRunOf(section, &massType->FromLayers) && SingleRunOf(section, &massType->ToLayers);
+}
+
 YgPolygon* AreaLayersPolygon(const RmSection* section, const RmMassType* massType,
                              const ViExtent& box) {
   YgPolygon* area = LayerListPolygon(section, &massType->AreaLayers, massType->AreaLayers.Join,
@@ -121,17 +143,11 @@ YgPolygon* MassPolygon(const RmModel* model, const RmSection* section,
   if (massType->CalcType == kCalcTypeAreaLayers) return AreaLayersPolygon(section, massType, box);
 
   const double lift = massType->MinThickness > 0.0 ? kSgThicknessLift : 0.0;
-  YgPolygon* upper = LayerListPolygon(section, &massType->FromLayers, massType->FromLayers.Join,
-                                      kSgCloseToTop, box, lift);
-  YgPolygon* lower = LayerListPolygon(section, &massType->ToLayers, massType->ToLayers.Join,
-                                      kSgCloseToTop, box, 0.0);
-  YgPolygon* result = nullptr;
-  if (upper && lower) {
-    vFillUpperGaps(&upper, box);
-    result = pYgPolygonPolygonClipAndSortPartsForIslands(lower, upper, kYgClipDifference, 1);
-  }
-  vYgPolygonDelete(&upper);
-  vYgPolygonDelete(&lower);
+  YgPolygon* result =
+      boIsBand(section, massType)
+          ? LayerBandPolygon(SingleRunOf(section, &massType->FromLayers),
+                             SingleRunOf(section, &massType->ToLayers), box, lift)
+          : ClippedRoom(section, massType, box, lift);
   if (!result) return nullptr;
 
   if (iRmMassTypesGetKind(massTypes) == kRmMassTypesLong) {
