@@ -2,7 +2,13 @@
 // masses of the locked sections, and a save writes them with their outlines.
 #include <gtest/gtest.h>
 
+#include <fstream>
+#include <iterator>
 #include <string>
+
+#include "road_model/model/model_parts.h"
+#include "road_model/sections/section_masses.h"
+#include "road_model/sections/section_set.h"
 
 #include "tests/support/model_file_text.h"
 
@@ -54,6 +60,29 @@ TEST(LockedMasses, UnlockedSectionsKeepWhatTheFileSays) {
   const std::string body = sSectionBody(sWrittenModel(model.get()), "CROSSECTIONS");
   EXPECT_NE(body.find("MASS\r\n 1 99 0\r\n 2 99 0\r\n 3 99 0\r\n"), std::string::npos);
   EXPECT_FALSE(model->Dirty);
+}
+
+// Masses of every kind at once, in the seed file of the fuzz runs.
+TEST(LockedMasses, EveryKindOfMassInOneFile) {
+  std::ifstream in(KVRVIPS_TEST_DATA_DIR "/section_geometry/locked_masses.sfi", std::ios::binary);
+  ModelPtr model = ReadModel(std::string(std::istreambuf_iterator<char>(in), {}));
+  ASSERT_NE(model, nullptr);
+  const RmSection* section = RmSectionsGetFirst(RmModelGetCrossSections(model.get()));
+  ASSERT_NE(section, nullptr);
+  struct Expected {
+    int massId;
+    double area;
+  };
+  // The cut of a terrain with a gap; the fill, its upper layer raised by
+  // 0.0005 over 4 m for its minimum thickness; the cut under two terrains
+  // between the restriction's limits (-4 to 6); the outline; the cut less
+  // the fill.
+  for (const Expected e : {Expected{1, 16.0}, Expected{2, 2.002}, Expected{3, 21.0},
+                           Expected{4, 6.0}, Expected{6, 13.998}}) {
+    const RmMass* mass = RmMassFind(section, e.massId);
+    ASSERT_NE(mass, nullptr) << e.massId;
+    EXPECT_NEAR(mass->Area, e.area, 1e-4) << e.massId;
+  }
 }
 
 }  // namespace
