@@ -66,8 +66,8 @@ void vRmPavementCopy(RmPavement* to, const RmPavement* from) {
 }
 
 bool boRmPavementHasRows(const RmPavement* pavement) {
-  return pavement && (pavement->SoilSections.first || pavement->RockSections.first ||
-                      pavement->Packages.first);
+  return pavement &&
+         (pavement->SoilSections.first || pavement->RockSections.first || pavement->Packages.first);
 }
 
 // ---- Ranges ----

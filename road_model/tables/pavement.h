@@ -83,9 +83,9 @@ struct RmPavementAppearings {
 };
 
 struct RmPavement {
-  ListHead SoilSections;  // RmPavementSection, ascending by range start
-  ListHead RockSections;  // the same
-  ListHead Packages;      // RmPavementPackage, ascending by Number
+  ListHead SoilSections;             // RmPavementSection, ascending by range start
+  ListHead RockSections;             // the same
+  ListHead Packages;                 // RmPavementPackage, ascending by Number
   RmPavementAppearings* Appearings;  // owned; null for none
   int32_t CutAntifreezeFilling;
   double CutAntifreezeMinFillHeight;  // -99999.0 when absent

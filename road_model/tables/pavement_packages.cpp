@@ -218,8 +218,7 @@ RmPavementSurfaceEdge* RmPavementSurfaceEdgeAdd(RmPavementPackage* package, int3
   return edge;
 }
 
-RmPavementSurfaceEdge* RmPavementSurfaceEdgeFind(const RmPavementPackage* package,
-                                                 int32_t number) {
+RmPavementSurfaceEdge* RmPavementSurfaceEdgeFind(const RmPavementPackage* package, int32_t number) {
   return package ? FindNumber<RmPavementSurfaceEdge>(&package->SurfaceEdges, number) : nullptr;
 }
 

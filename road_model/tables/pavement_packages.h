@@ -35,8 +35,7 @@ void vRmPavementPackageSetOuterEdgeToTerrain(RmPavementPackage* package, int sid
 void vRmPavementPackageSetOuterEdgeToTerrainSlope(RmPavementPackage* package, int side,
                                                   double value);
 void vRmPavementPackageSetUseSurfaceEdge(RmPavementPackage* package, int side, int value);
-void vRmPavementPackageSetOuterEdgeToDeepRockBlast(RmPavementPackage* package, int side,
-                                                   int value);
+void vRmPavementPackageSetOuterEdgeToDeepRockBlast(RmPavementPackage* package, int side, int value);
 void vRmPavementPackageSetExcavationSlope(RmPavementPackage* package, int side, double value);
 
 // ---- Children of a package ----
@@ -58,8 +57,7 @@ RmPavementSurfaceEdge* RmPavementSurfaceEdgesGetFirst(const RmPavementPackage* p
 // A new edge of `number`, its values 0, in front of the first edge of a
 // greater number.
 RmPavementSurfaceEdge* RmPavementSurfaceEdgeAdd(RmPavementPackage* package, int32_t number);
-RmPavementSurfaceEdge* RmPavementSurfaceEdgeFind(const RmPavementPackage* package,
-                                                 int32_t number);
+RmPavementSurfaceEdge* RmPavementSurfaceEdgeFind(const RmPavementPackage* package, int32_t number);
 
 // ---- Whole-table work ----
 

@@ -55,15 +55,18 @@ class CurrentDirectory {
 
 // What the table readers of an import log, in their order: the headings,
 // with the warnings of the ditches in fill and the lines of the connected
-// models behind their own.
+// models behind their own, and the heading of a detailed pavement behind
+// that of the pavement.
 inline std::string sTablesLog(const std::string& ditchWarnings = "",
-                              const std::string& connectedModels = "") {
+                              const std::string& connectedModels = "",
+                              const std::string& detailedPavement = "") {
   return "Leser tabell: Sideavgrensning\n"
          "Leser tabell: Gr\xF8" "ft i fylling\n" + ditchWarnings +
          "Leser tabell: Fjellhylle\n"
          "Leser tabell: Min. gr\xF8" "fte dybde\n"
          "Leser tabell: Lukkede gr\xF8" "fter \n"
          "Leser tabell: Min. gr\xF8" "fte dybde\n" + connectedModels +
+         "Leser tabell: Overbygning\n" + detailedPavement +
          "Leser tabell: Fjerning av matjord og vegetasjon\n"
          "Leser tabell: Masseutskiftning\n";
 }

@@ -15,6 +15,8 @@
 #include "vips_import/readers/closed_drainages.h"
 #include "vips_import/readers/connected_models.h"
 #include "vips_import/readers/elevation_differences.h"
+#include "vips_import/readers/pavement.h"
+#include "vips_import/readers/pavement_detailed.h"
 #include "vips_import/readers/side_tables.h"
 #include "vips_import/driver/external_converter.h"
 #include "vips_import/driver/import_log.h"
@@ -145,6 +147,16 @@ void vReadClosedDrainages(VipsImportRun& run) {
 
 void vReadConnectedModels(VipsImportRun& run) { iVipsReadConnectedModels(run.in, run.log); }
 
+// The pavement notes whether the design uses rehabilitation data, for the
+// warning at the end of the import.
+void vReadPavement(VipsImportRun& run) {
+  iVipsReadPavement(run.in, run.log, run.model, SurfGen(run), &run.rehabUsed);
+}
+
+void vReadDetailedPavement(VipsImportRun& run) {
+  vVipsReadDetailedPavement(run.in, run.log, run.model);
+}
+
 void vReadTopSoilRemovals(VipsImportRun& run) {
   iVipsReadTopSoilRemovals(run.in, run.log, SurfGen(run));
 }
@@ -194,6 +206,8 @@ constexpr VipsImportStep kImportSteps[] = {
     {kVipsImportTables, VipsStepNeeds::kInput, vReadDitchDepths},
     {kVipsImportTables, VipsStepNeeds::kInput, vReadClosedDrainages},
     {kVipsImportTables, VipsStepNeeds::kInput, vReadConnectedModels},
+    {kVipsImportTables, VipsStepNeeds::kInput, vReadPavement},
+    {kVipsImportTables, VipsStepNeeds::kInput, vReadDetailedPavement},
     {kVipsImportTables, VipsStepNeeds::kInput, vReadTopSoilRemovals},
     {kVipsImportTables, VipsStepNeeds::kInput, vReadSoftSpotRemovals},
     // Sections, always rebuilt from scratch by the readers of the result

@@ -83,8 +83,8 @@ void vWriteSections(AsfFile* file, AsfSection* section, const RmPavement* paveme
 
 void vWritePackageValues(AsfFile* file, AsfSection* section, const RmPavementPackage* package) {
   const int32_t* m = package->UnderMedian;
-  boRecordWrite(file, section, "%s %d %d %d %d %d %d %d %d %d %d", kUnderMedianKeyword, m[0],
-                m[1], m[2], m[3], m[4], m[5], m[6], m[7], m[8], m[9]);
+  boRecordWrite(file, section, "%s %d %d %d %d %d %d %d %d %d %d", kUnderMedianKeyword, m[0], m[1],
+                m[2], m[3], m[4], m[5], m[6], m[7], m[8], m[9]);
   boRecordWrite(file, section, "%s %d %d", kOuterEdgeToTerrainKeyword,
                 package->OuterEdgeToTerrain[0], package->OuterEdgeToTerrain[1]);
   boRecordWrite(file, section, "%s %.3f %.3f", kOuterEdgeToTerrainSlopeKeyword,
@@ -93,8 +93,8 @@ void vWritePackageValues(AsfFile* file, AsfSection* section, const RmPavementPac
                 package->UseSurfaceEdge[1]);
   boRecordWrite(file, section, "%s %d %d", kOuterEdgeToDeepRockBlastKeyword,
                 package->OuterEdgeToDeepRockBlast[0], package->OuterEdgeToDeepRockBlast[1]);
-  boRecordWrite(file, section, "%s %.3f %.3f", kExcavationSlopeKeyword,
-                package->ExcavationSlope[0], package->ExcavationSlope[1]);
+  boRecordWrite(file, section, "%s %.3f %.3f", kExcavationSlopeKeyword, package->ExcavationSlope[0],
+                package->ExcavationSlope[1]);
 }
 
 void vWritePackage(AsfFile* file, AsfSection* section, const RmPavementPackage* package) {
@@ -114,8 +114,7 @@ void vWritePackage(AsfFile* file, AsfSection* section, const RmPavementPackage* 
     boRecordWrite(file, section, "%s %d", kGradualKeyword, layer->LayerNumber);
     boRecordWrite(file, section, "%s %.3f", kExtraWidthKeyword, layer->ExtraWidth);
     boRecordWrite(file, section, "%s %.3f", kGradientKeyword, layer->Gradient);
-    boRecordWrite(file, section, "%s %.3f", kTransitionGradientKeyword,
-                  layer->TransitionGradient);
+    boRecordWrite(file, section, "%s %.3f", kTransitionGradientKeyword, layer->TransitionGradient);
     boRecordWrite(file, section, "%s %d", kThinnerExtensionKeyword, layer->ThinnerExtension);
   }
   for (const RmPavementSurfaceEdge* edge = RmPavementSurfaceEdgesGetFirst(package); edge;

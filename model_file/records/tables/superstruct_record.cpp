@@ -31,7 +31,7 @@ struct ReadState {
   RmPavement* Pavement;
   RmChainRangeTable* Slopes = nullptr;  // made with the first row
   int32_t UnderMedian[3] = {};
-  double Road[3] = {};  // STONESLOPESIDE, STONESLOPEINTERMED, EXCAVATIONSLOPE
+  double Road[3] = {};                   // STONESLOPESIDE, STONESLOPEINTERMED, EXCAVATIONSLOPE
   RmPavementSection* Open[2] = {};       // the open range on soil and on rock
   RmPavementPackage* Package = nullptr;  // whose surfaces the rows are
   int Packages = 0;                      // packages made, both kinds

@@ -1,9 +1,10 @@
 // The pavement table: its copy, the order of packages and the appearing rows.
+#include "road_model/tables/pavement.h"
+
 #include <gtest/gtest.h>
 
 #include <cstring>
 
-#include "road_model/tables/pavement.h"
 #include "road_model/tables/pavement_packages.h"
 
 TEST(Pavement, CopyOwnsItsPackagesAndRows) {

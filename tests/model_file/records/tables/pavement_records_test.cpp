@@ -12,9 +12,9 @@ namespace {
 
 // The lines of a package that sets nothing on its own.
 std::vector<std::string> EmptyPackageLines() {
-  return {"UNDERMEDIAN 0 0 0 0 0 0 0 0 0 0", "OUTEREDGETOTERRAIN 0 0",
+  return {"UNDERMEDIAN 0 0 0 0 0 0 0 0 0 0",     "OUTEREDGETOTERRAIN 0 0",
           "OUTEREDGETOTERRAINSLOPE 0.000 0.000", "USESURFACEEDGE 0 0",
-          "OUTEREDGETODEEPROCKBLAST 0 0",    "EXCAVATIONSLOPE 0.000 0.000"};
+          "OUTEREDGETODEEPROCKBLAST 0 0",        "EXCAVATIONSLOPE 0.000 0.000"};
 }
 
 const std::string kZeros = " 0.000 0.000 0.000 0.000 0.000 0.000 0.000 0.000 0.000 0.000";
@@ -29,11 +29,11 @@ std::vector<std::string> Join(std::initializer_list<std::vector<std::string>> pa
 
 TEST(PavementRecords, WrittenInOrderWithoutWhatCannotBeRead) {
   const std::vector<std::string> read = {
-      " 5 6 7",  // a row before any group
+      " 5 6 7",           // a row before any group
       "UNDERMEDIAN 1 1",  // before any package
       ":PAVEMENTSECTIONROCK 300 400 3",
       ":PAVEMENTSECTIONSOIL 200 300 2",
-      ":PAVEMENTSECTIONSOIL 0 200",  // package missing: 0
+      ":PAVEMENTSECTIONSOIL 0 200",      // package missing: 0
       ":PAVEMENTSECTIONSOIL 200 250 4",  // an equal start goes behind
       ":PAVEMENTPACKAGE 2 \"Lett veg\"",
       "THICKNESS 1 2",  // before any surface
@@ -79,12 +79,9 @@ TEST(PavementRecords, WrittenInOrderWithoutWhatCannotBeRead) {
 
 TEST(PavementRecords, OlderVersionsMoveAndRewriteWhatTheyHeldOtherwise) {
   const std::vector<std::string> read = {
-      ":PAVEMENTPACKAGE 1 A",
-      "UNDERMEDIAN 0 1 2 3 4 5 6 7 8 9",
-      ":PAVEMENTSURFACE 10005",
-      "THICKNESS -99999 0.1 0.2 0.3 0.4 0.5 0.6 0.7 0.8 0.9",
-      ":PAVEMENT_SURFACEEDGE -20003",
-      "CODE 30007",
+      ":PAVEMENTPACKAGE 1 A",         "UNDERMEDIAN 0 1 2 3 4 5 6 7 8 9",
+      ":PAVEMENTSURFACE 10005",       "THICKNESS -99999 0.1 0.2 0.3 0.4 0.5 0.6 0.7 0.8 0.9",
+      ":PAVEMENT_SURFACEEDGE -20003", "CODE 30007",
       "WIDTH 0 1 2 3 4 5 6 7 8 9",
   };
   struct Case {
@@ -155,9 +152,9 @@ TEST(PavementRecords, SuperstructIsReadAsPavementAndStoneExcavationSlopes) {
   EXPECT_EQ(sSectionBody(file, "PAVEMENT"),
             sCrLf(Join({
                 {":PAVEMENTSECTIONSOIL 0.000 100.000 0", ":PAVEMENTSECTIONSOIL 100.000 200.000 1",
-                 ":PAVEMENTSECTIONSOIL 200.000 400.000 3",
-                 ":PAVEMENTSECTIONROCK 0.000 100.000 0", ":PAVEMENTSECTIONROCK 100.000 200.000 2",
-                 ":PAVEMENTSECTIONROCK 200.000 400.000 0", ":PAVEMENTPACKAGE 1 \"Soil 1\""},
+                 ":PAVEMENTSECTIONSOIL 200.000 400.000 3", ":PAVEMENTSECTIONROCK 0.000 100.000 0",
+                 ":PAVEMENTSECTIONROCK 100.000 200.000 2", ":PAVEMENTSECTIONROCK 200.000 400.000 0",
+                 ":PAVEMENTPACKAGE 1 \"Soil 1\""},
                 underMedian,
                 rest,
                 {":PAVEMENTSURFACE -10101", "MINTHICKNESS 0.000",
