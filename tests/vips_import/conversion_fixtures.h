@@ -70,3 +70,10 @@ inline std::string sTablesLog(const std::string& ditchWarnings = "",
          "Leser tabell: Fjerning av matjord og vegetasjon\n"
          "Leser tabell: Masseutskiftning\n";
 }
+
+// What the readers of the sections log when the design has a result side,
+// behind the blank line that sets them apart from the tables.
+inline std::string sSectionsLog() {
+  return "\nLeser fysiske profiler\n"
+         "Leser \"Vips diverse\" lag, ikke brukt under bygging.\n";
+}

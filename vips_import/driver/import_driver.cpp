@@ -17,6 +17,8 @@
 #include "vips_import/readers/elevation_differences.h"
 #include "vips_import/readers/pavement.h"
 #include "vips_import/readers/pavement_detailed.h"
+#include "vips_import/readers/misc_layers.h"
+#include "vips_import/readers/physical_profiles.h"
 #include "vips_import/readers/side_tables.h"
 #include "vips_import/driver/external_converter.h"
 #include "vips_import/driver/import_log.h"
@@ -170,6 +172,16 @@ void vClearSections(VipsImportRun& run) { vVipsClearSections(run.model); }
 // Sets the sections apart from the tables in the log.
 void vLogSectionsStart(VipsImportRun& run) { vVipsLogPrint(run.log, "\n"); }
 
+// The physical reader makes the cross sections that the later readers of
+// sections fill.
+void vReadPhysicalProfiles(VipsImportRun& run) {
+  vVipsReadPhysicalProfiles(run.res, run.in, run.log, run.model);
+}
+
+void vReadMiscLayers(VipsImportRun& run) {
+  vVipsReadMiscLayers(run.res, run.in, run.log, run.model);
+}
+
 void vFitSectionsToMainLine(VipsImportRun& run) { vVipsFitSectionsToMainLine(run.model); }
 
 // Rehabilitation data is not imported; the log says so, and the import
@@ -214,6 +226,8 @@ constexpr VipsImportStep kImportSteps[] = {
     // side.
     {kVipsImportTables, VipsStepNeeds::kDesign, vClearSections},
     {kVipsImportTables, VipsStepNeeds::kDesign, vLogSectionsStart},
+    {kVipsImportTables, VipsStepNeeds::kResults, vReadPhysicalProfiles},
+    {kVipsImportTables, VipsStepNeeds::kResults, vReadMiscLayers},
     {kVipsImportTables, VipsStepNeeds::kDesign, vWarnOfRehabilitation},
     // Finishing, over all tables at once: the cross sections placed on the
     // main line.

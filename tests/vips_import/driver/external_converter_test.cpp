@@ -76,7 +76,7 @@ ConverterRun RunWithConverter(int exitCode, const std::string& design,
 const std::string kFullLog = sLogHead("Np21", "Road", "10.0") +
                              "  Leser tabell: Overstyring av vertikalkurvatur\n\n\n"
                              "Leser ekstra linjer\n" +
-                             sTablesLog() + "\n";
+                             sTablesLog() + sSectionsLog();
 
 TEST(ExternalConverter, SuccessGoesOnToOpenTheDesign) {
   // A path with blanks reaches the converter as several arguments.

@@ -70,7 +70,7 @@ TEST(ConvertDatabase, AMissingModelFileIsMadeNewWithTheImport) {
   EXPECT_EQ(conversion.result, 0);
   EXPECT_EQ(conversion.logPath, folder / "veg.log");
   EXPECT_EQ(conversion.log,
-            sLogHead("Np21", "Road", "10.0") + kNoAlignments + kTablesHeading + "\n");
+            sLogHead("Np21", "Road", "10.0") + kNoAlignments + kTablesHeading + sSectionsLog());
 
   EXPECT_EQ(sReadWholeFile(modelFile).rfind("[KVRFILE_ASCII]\r\n", 0), 0u);
   ModelPtr model = Loaded(modelFile);
@@ -123,17 +123,18 @@ TEST(ConvertDatabase, TheFlagsAndTheInputSideDecideWhatOfTheLoadedModelStays) {
       // A full import resets the model but keeps its guid; a WS design names
       // no road type.
       {sInputOf("9.0", 3), KVRVIPS_IMPORT_FULL,
-       sLogHead("Unknown", "WS", "9.0") + kNoAlignments + kTablesHeading + "\n", 9.0, "", 0, 0, 0},
+       sLogHead("Unknown", "WS", "9.0") + kNoAlignments + kTablesHeading + sSectionsLog(), 9.0,
+       "", 0, 0, 0},
       // The tables list the connected models without resetting the model.
       {sInputOf("8.1", 1, connected), KVRVIPS_IMPORT_TABLES,
        sLogHead("Np19.20", "Road", "8.1") +
            sTablesLog("", "Gr\xF8" "ftemodel:\t10.000\t20.500\tGr\xF8" "ft A\n"
                           "Gr\xF8" "ftemodel:\t-5.125\t0.000\tKanal ?\n") +
-           "\n",
+           sSectionsLog(),
        8.1, "Nor", 4, 0, 0},
       // A design without input side is neither logged nor read for
       // alignments, and resets nothing; the tables start all the same.
-      {"null", KVRVIPS_IMPORT_FULL, "\n", 0.0, "Nor", 4, 0, 2},
+      {"null", KVRVIPS_IMPORT_FULL, sSectionsLog(), 0.0, "Nor", 4, 0, 2},
   };
   for (const auto& test : cases) {
     SCOPED_TRACE(test.input);
