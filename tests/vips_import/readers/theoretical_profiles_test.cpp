@@ -93,8 +93,9 @@ TEST_F(TheoreticalProfiles, EveryDesignedLineGoesToItsLayerWithCodesOfTheSurface
     point.point = PointRecord(x, -0.2);
     point.surfaceNumber = CSurfaceNumber(x < 0 ? -1.01 : 1.01);
   }
+  auto points = pavement.layerPoints;
   ms.pavementLayers.emplace_back().layerType = NpDesignModel::LayerTypeEnums{99};  // skipped
-  ms.pavementLayers.back().layerPoints = pavement.layerPoints;
+  ms.pavementLayers.back().layerPoints = points;
   ms.deepBlastings = Points({{-2, -1}, {2, -1}});
   ms.landscapingsLeft = Points({{-6, -0.5}, {-5, -0.56}});
   ms.landscapingsRight = Points({{5, -0.5}, {6, -0.4}});
