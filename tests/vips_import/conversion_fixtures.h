@@ -53,14 +53,17 @@ class CurrentDirectory {
   std::string previous_;
 };
 
-// What the table readers of an import log, in their order: the headings,
-// with the warnings of the ditches in fill and the lines of the connected
-// models behind their own, and the heading of a detailed pavement behind
-// that of the pavement.
+// What the table readers of an import log, in their order: the headings
+// from the build settings on, with the warnings of the ditches in fill and
+// the lines of the connected models behind their own, and the heading of a
+// detailed pavement behind that of the pavement.
 inline std::string sTablesLog(const std::string& ditchWarnings = "",
                               const std::string& connectedModels = "",
                               const std::string& detailedPavement = "") {
-  return "Leser tabell: Sideavgrensning\n"
+  return "Leser: Bygg innstillinger\n"
+         "Leser tabell: Overflate beskrivelser\n"
+         "Leser tabell: Sideavgrensning\n"
+         "Leser tabell: Flateavgrensningslinjer\n"
          "Leser tabell: Gr\xF8" "ft i fylling\n" + ditchWarnings +
          "Leser tabell: Fjellhylle\n"
          "Leser tabell: Min. gr\xF8" "fte dybde\n"
@@ -75,5 +78,6 @@ inline std::string sTablesLog(const std::string& ditchWarnings = "",
 // behind the blank line that sets them apart from the tables.
 inline std::string sSectionsLog() {
   return "\nLeser fysiske profiler\n"
-         "Leser \"Vips diverse\" lag, ikke brukt under bygging.\n";
+         "Leser \"Vips diverse\" lag, ikke brukt under bygging.\n"
+         "Leser teoretiske profiler\n";
 }

@@ -20,7 +20,10 @@
 #include "vips_import/readers/misc_layers.h"
 #include "vips_import/readers/physical_profiles.h"
 #include "vips_import/readers/side_tables.h"
+#include "vips_import/readers/surface_descriptions.h"
+#include "vips_import/readers/theoretical_profiles.h"
 #include "vips_import/driver/external_converter.h"
+#include "vips_import/driver/free_surfaces.h"
 #include "vips_import/driver/import_log.h"
 #include "vips_import/driver/open_errors.h"
 #include "vips_import/driver/section_finishing.h"
@@ -127,6 +130,15 @@ void vStartTables(VipsImportRun& run) {
 
 RmSurfGen* SurfGen(const VipsImportRun& run) { return RmModelGetSurfGen(run.model); }
 
+void vReadModelSettings(VipsImportRun& run) {
+  vVipsReadModelSettings(run.in, run.log, SurfGen(run));
+}
+
+// The surface description, on which the side tables hang.
+void vReadSurfaces(VipsImportRun& run) {
+  iVipsReadSurfaces(run.in, run.log, run.model, SurfGen(run));
+}
+
 void vReadSurfaceBoundaries(VipsImportRun& run) {
   iVipsReadSurfaceBoundaries(run.in, run.log, run.model);
 }
@@ -182,6 +194,14 @@ void vReadMiscLayers(VipsImportRun& run) {
   vVipsReadMiscLayers(run.res, run.in, run.log, run.model);
 }
 
+// The theoretical reader fills the sections that the physical one made,
+// and reconciles the surface description with the designed surface lines.
+void vReadTheoreticalProfiles(VipsImportRun& run) {
+  vVipsReadTheoreticalProfiles(run.res, run.in, run.log, run.model, SurfGen(run), run.modelType);
+}
+
+void vAddFreeSurfaces(VipsImportRun& run) { vVipsAddFreeSurfaces(SurfGen(run)); }
+
 void vFitSectionsToMainLine(VipsImportRun& run) { vVipsFitSectionsToMainLine(run.model); }
 
 // Rehabilitation data is not imported; the log says so, and the import
@@ -211,6 +231,8 @@ constexpr VipsImportStep kImportSteps[] = {
     // The tables of the design's input side. The side tables hang on the
     // surfaces, so that they come after them; the counts of rows are not
     // looked at.
+    {kVipsImportTables, VipsStepNeeds::kInput, vReadModelSettings},
+    {kVipsImportTables, VipsStepNeeds::kInput, vReadSurfaces},
     {kVipsImportTables, VipsStepNeeds::kInput, vReadSurfaceBoundaries},
     {kVipsImportTables, VipsStepNeeds::kInput, vReadSurfaceEdgeAlignments},
     {kVipsImportTables, VipsStepNeeds::kInput, vReadEmbankmentDitches},
@@ -228,9 +250,11 @@ constexpr VipsImportStep kImportSteps[] = {
     {kVipsImportTables, VipsStepNeeds::kDesign, vLogSectionsStart},
     {kVipsImportTables, VipsStepNeeds::kResults, vReadPhysicalProfiles},
     {kVipsImportTables, VipsStepNeeds::kResults, vReadMiscLayers},
+    {kVipsImportTables, VipsStepNeeds::kResults, vReadTheoreticalProfiles},
     {kVipsImportTables, VipsStepNeeds::kDesign, vWarnOfRehabilitation},
-    // Finishing, over all tables at once: the cross sections placed on the
-    // main line.
+    // Finishing, over all tables at once: the free surfaces of the border
+    // lines, and the cross sections placed on the main line.
+    {kVipsImportTables, VipsStepNeeds::kNothing, vAddFreeSurfaces},
     {kVipsImportTables, VipsStepNeeds::kNothing, vFitSectionsToMainLine},
 };
 
