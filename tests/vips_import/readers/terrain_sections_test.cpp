@@ -161,6 +161,38 @@ TEST(TerrainSections, TheConversionWritesTheTerrainTheLinesAndTheLongSection) {
   }
 }
 
+// The terrain, the "Vips diverse" lines and the designed lines of one
+// design meet in the same cross sections: the terrain reader makes a section
+// for every computed section, also one without terrain, and the theoretical
+// reader fills them.
+TEST(TerrainSections, TheTerrainAndTheDesignedLinesShareTheirSections) {
+  DesignModelBuilder builder;
+  builder.Input().modelVersionNumber = 10.0;
+  builder.Input().modelType = NpDesignModel::CInData::ModelTypeEnums{1};
+  vAddTerrain(builder, 100.0, 50.0, {1}, {{-2.0, 1.5, {}}, {2.0, 2.0, {}}},
+              {{999, u"T", {{-1.0, 51.0}}}});
+  builder.AddSection(110.0).model.roadBed = {NpDesignModel::PointRecord(1.0, 45.0)};
+  vAddTerrain(builder, 120.0, 40.0, {1}, {{0.0, 1.0, {}}});
+  builder.Results().sections[0].model.roadBed = {NpDesignModel::PointRecord(0.0, 0.5)};
+  builder.Results().sections[0].model.refElevation = 50.0;
+  std::unique_ptr<DesignModelRecord> design = builder.Build();
+
+  ScratchFolder folder;
+  Converted converted = Convert(folder, *design);
+  ASSERT_EQ(converted.result, 0);
+  EXPECT_EQ(sSectionBody(converted.file, "CROSSECTIONS"),
+            sCrLf({
+                ":CHAIN 100.0000", kNotPlaced,
+                "LAYER 13", " 0 50.5 0",
+                "LAYER 14", " -2 51.5 0", " 2 52 0",
+                "LAYER 15", " -1 51 0",
+                ":CHAIN 110.0000", kNotPlaced,
+                "LAYER 13", " 1 45 0",
+                ":CHAIN 120.0000", kNotPlaced,
+                "LAYER 14", " 0 41 0",
+            }));
+}
+
 namespace {
 
 // A model whose cross section at 100 holds the lines of type 5 of materials
