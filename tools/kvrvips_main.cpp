@@ -48,7 +48,8 @@ int main(int argc, char** argv) {
 
   ConvertRequest request;
   std::string flagsText = "65535";
-  CLI::App* convert = app.add_subcommand("convert", "Convert DESIGN into the road model file MODEL");
+  CLI::App* convert =
+      app.add_subcommand("convert", "Convert DESIGN into the road model file MODEL");
   convert->add_option("DESIGN", request.sDesign, "The design document")->required();
   convert->add_option("MODEL", request.sModel,
                       "The road model file: loaded if it exists, written when the conversion "

@@ -64,7 +64,9 @@ void vRmKeywordLineWrite(AsfFile* file, AsfSection* section, const Object& objec
 template <typename Object>
 void vRmKeywordLinesWrite(AsfFile* file, AsfSection* section, const Object& object,
                           std::span<const RmKeywordLine<Object>> lines) {
-  for (const RmKeywordLine<Object>& entry : lines) vRmKeywordLineWrite(file, section, object, entry);
+  for (const RmKeywordLine<Object>& entry : lines) {
+    vRmKeywordLineWrite(file, section, object, entry);
+  }
 }
 
 // Sets the field of the line's keyword (in line->Token) from the rest of

@@ -53,7 +53,8 @@ constexpr RmKeywordLine<RmSurfaceGroup> kGroupLines[] = {
      .WrittenWhen = [](const RmSurfaceGroup& group) { return boIsPresent(group.RefHeight); }},
     {.Keyword = "CLIPLAYERLEFT",
      .Format = "%u",
-     .GetInteger = [](const RmSurfaceGroup& group) { return iRmLayerIdToFile(group.ClipLayerLeft); },
+     .GetInteger =
+         [](const RmSurfaceGroup& group) { return iRmLayerIdToFile(group.ClipLayerLeft); },
      .SetInteger = [](RmSurfaceGroup* group,
                       int32_t value) { group->ClipLayerLeft = ClipLayerOf(value); },
      .WrittenWhen = [](const RmSurfaceGroup& group) {

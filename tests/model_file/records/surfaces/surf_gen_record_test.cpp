@@ -74,7 +74,8 @@ TEST(SurfGenRecords, SuperstructureModeNeedsGradingsOrStoneSlopes) {
   EXPECT_NE(sWrittenModel(without.get()).find("SUPERSTRUCTUREMODE 0\r\n"), std::string::npos);
   ModelPtr with = ReadModel(sModelFileOf(
       13, {{"MASSCALC", masscalc},
-           {"SPECIALGRADINGS", sCrLf({":SPECIALGRADINGCHAIN 10.000", " 10100 0.500 10200 1.000"})}}));
+           {"SPECIALGRADINGS",
+            sCrLf({":SPECIALGRADINGCHAIN 10.000", " 10100 0.500 10200 1.000"})}}));
   EXPECT_NE(sWrittenModel(with.get()).find("SUPERSTRUCTUREMODE 1\r\n"), std::string::npos);
 }
 
