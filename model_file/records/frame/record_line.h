@@ -13,6 +13,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstring>
 
 struct AsfFile;
 struct AsfSection;
@@ -55,6 +56,11 @@ bool boRecordAtEnd(RecordLine* line);
 // Any other text is read by the model file's number readers.
 int iRecordInteger(RecordLine* line, int defaultValue = 0);
 double dRecordNumber(RecordLine* line, double defaultValue = 0.0);
+
+// Whether a token is this keyword, byte for byte.
+inline bool boRecordIs(const char* token, const char* keyword) {
+  return std::strcmp(token, keyword) == 0;
+}
 
 // Whether a line is a row of numbers: its first token starts with a digit,
 // "-" or ".".

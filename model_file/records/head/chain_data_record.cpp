@@ -29,7 +29,6 @@ constexpr size_t kFieldsLineSize = 616;
 // row carries 40 bytes per field.
 constexpr int kFieldCountMax = 1000;
 
-bool boIs(const char* keyword, const char* name) { return std::strcmp(keyword, name) == 0; }
 bool boSet(double value) { return std::fabs(value) >= kUnset; }
 
 bool boPresent(const RmModel* model, const RmRecordFamily&) {
@@ -113,16 +112,16 @@ void vRead(AsfFile* file, AsfSection* section, RmModel* model, const RmRecordFam
   RmChainDataRow* row = nullptr;
   for (RecordLine record; boRecordNextLine(file, section, &record);) {
     const char* keyword = record.Token;
-    if (boIs(keyword, kExact3dMode)) {
+    if (boRecordIs(keyword, kExact3dMode)) {
       data->Exact3dMode = static_cast<uint32_t>(iRecordInteger(&record));
-    } else if (boIs(keyword, kCorridorWidth)) {
+    } else if (boRecordIs(keyword, kCorridorWidth)) {
       data->CorridorWidth = dRecordNumber(&record);
-    } else if (boIs(keyword, kMaxClDeviation)) {
+    } else if (boRecordIs(keyword, kMaxClDeviation)) {
       data->MaxClDeviation = dRecordNumber(&record);
-    } else if (boIs(keyword, kExpandStartEnd)) {
+    } else if (boRecordIs(keyword, kExpandStartEnd)) {
       data->ExpandStart = dRecordNumber(&record);
       data->ExpandEnd = dRecordNumber(&record);
-    } else if (boIs(keyword, kLineKeyword)) {
+    } else if (boRecordIs(keyword, kLineKeyword)) {
       int type = iRecordInteger(&record);
       int fieldCount = iRecordInteger(&record);
       int infoType = iRecordInteger(&record);
@@ -130,15 +129,15 @@ void vRead(AsfFile* file, AsfSection* section, RmModel* model, const RmRecordFam
       line = RmChainDataLineAdd(data, nullptr, type, fieldCount);
       vRmChainDataLineSetInfoType(line, infoType);
       row = nullptr;
-    } else if (boIs(keyword, kChain)) {
+    } else if (boRecordIs(keyword, kChain)) {
       row = RmChainDataRowAdd(line);
       if (row) vReadRow(&record, row);
-    } else if (boIs(keyword, kOffs) || boIs(keyword, kFields)) {
+    } else if (boRecordIs(keyword, kOffs) || boRecordIs(keyword, kFields)) {
       // Offsets and fields belong to the row before them; without one the
       // group ends.
       if (!row) {
         line = nullptr;
-      } else if (boIs(keyword, kOffs)) {
+      } else if (boRecordIs(keyword, kOffs)) {
         vReadOffsets(&record, row);
       } else {
         vReadFields(&record, line, row);

@@ -29,7 +29,6 @@ const char* sTerminated(const char (&field)[N], char (&out)[N + 1]) {
   return out;
 }
 
-bool boIs(const char* keyword, const char* name) { return std::strcmp(keyword, name) == 0; }
 
 bool boPresent(const RmModel* model, const RmRecordFamily&) {
   return RmModelGetRoadDimParams(model) != nullptr;
@@ -62,17 +61,17 @@ void vRead(AsfFile* file, AsfSection* section, RmModel* model, const RmRecordFam
   }
   for (RecordLine line; boRecordNextLine(file, section, &line);) {
     const char* keyword = line.Token;
-    if (boIs(keyword, kSpeed)) {
+    if (boRecordIs(keyword, kSpeed)) {
       params->Speed = iRecordInteger(&line);
-    } else if (boIs(keyword, kYdt)) {
+    } else if (boRecordIs(keyword, kYdt)) {
       params->Ydt = iRecordInteger(&line);
-    } else if (boIs(keyword, kBasicRoad)) {
+    } else if (boRecordIs(keyword, kBasicRoad)) {
       params->BasicRoad = iRecordInteger(&line);
-    } else if (boIs(keyword, kRoadClass)) {
+    } else if (boRecordIs(keyword, kRoadClass)) {
       sCopy(params->RoadClass, sRecordToken(&line), sizeof params->RoadClass);
-    } else if (boIs(keyword, kVehicleClass)) {
+    } else if (boRecordIs(keyword, kVehicleClass)) {
       sCopy(params->VehicleClass, sRecordToken(&line), kVehicleClassRead + 1);
-    } else if (boIs(keyword, kClassVersion)) {
+    } else if (boRecordIs(keyword, kClassVersion)) {
       params->ClassVersion = iRecordInteger(&line, params->ClassVersion);
     }
   }

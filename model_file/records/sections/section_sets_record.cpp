@@ -136,7 +136,6 @@ struct SetReader {
   Reading State;
 };
 
-bool boIs(const char* keyword, const char* name) { return std::strcmp(keyword, name) == 0; }
 
 // The three plan points of CLRPOINTS: origin, left end, right end.
 void vReadPlanPoints(RecordLine* line, RmSection* section) {
@@ -175,13 +174,13 @@ void vStartLayer(SetReader* reader, RecordLine* line) {
 
 // A keyword of the layer's build info; false for any other keyword.
 bool boReadBuildInfo(RmLayer* layer, const char* keyword, RecordLine* line) {
-  if (boIs(keyword, kBuildMethod)) {
+  if (boRecordIs(keyword, kBuildMethod)) {
     vRmLayerSetBuildMethod(layer, iRecordInteger(line, 1));
-  } else if (boIs(keyword, kInterMethod)) {
+  } else if (boRecordIs(keyword, kInterMethod)) {
     vRmLayerSetInterMethod(layer, iRecordInteger(line, 1));
-  } else if (boIs(keyword, kBlockName)) {
+  } else if (boRecordIs(keyword, kBlockName)) {
     vRmLayerSetBlockName(layer, sRecordToken(line));
-  } else if (boIs(keyword, kOppositeDiagonal)) {
+  } else if (boRecordIs(keyword, kOppositeDiagonal)) {
     vRmLayerSetOppositeDiagonal(layer, iRecordInteger(line, 0) != 0);
   } else {
     return false;
@@ -191,30 +190,30 @@ bool boReadBuildInfo(RmLayer* layer, const char* keyword, RecordLine* line) {
 
 void vReadSectionKeyword(SetReader* reader, const char* keyword, RecordLine* line) {
   RmSection* section = reader->Section;
-  if (boIs(keyword, kLayer)) {
+  if (boRecordIs(keyword, kLayer)) {
     vStartLayer(reader, line);
-  } else if (boIs(keyword, kMass)) {
+  } else if (boRecordIs(keyword, kMass)) {
     reader->State = Reading::kMass;
-  } else if (boIs(keyword, kAngles)) {
+  } else if (boRecordIs(keyword, kAngles)) {
     vReadAngles(line, section);
-  } else if (boIs(keyword, kFlags)) {
+  } else if (boRecordIs(keyword, kFlags)) {
     section->Flags = static_cast<uint32_t>(iRecordInteger(line));
-  } else if (boIs(keyword, kLeftClip)) {
+  } else if (boRecordIs(keyword, kLeftClip)) {
     section->LClipDist = static_cast<float>(dRecordNumber(line));
     vRmSectionSetFlag(section, kRmSectionLeftClip, true);
-  } else if (boIs(keyword, kRightClip)) {
+  } else if (boRecordIs(keyword, kRightClip)) {
     section->RClipDist = static_cast<float>(dRecordNumber(line));
     vRmSectionSetFlag(section, kRmSectionRightClip, true);
-  } else if (boIs(keyword, kClipInCorner)) {
+  } else if (boRecordIs(keyword, kClipInCorner)) {
     section->ClipInCorner = iRecordInteger(line);
-  } else if (boIs(keyword, kTilt)) {
+  } else if (boRecordIs(keyword, kTilt)) {
     section->TiltSlope = dRecordNumber(line);
     section->TiltHeight = dRecordNumber(line);
-  } else if (boIs(keyword, kTunnelRotation)) {
+  } else if (boRecordIs(keyword, kTunnelRotation)) {
     section->TunnelRotation = dRecordNumber(line);
-  } else if (boIs(keyword, kLocked)) {
+  } else if (boRecordIs(keyword, kLocked)) {
     vRmSectionSetFlag(section, kRmSectionLocked, iRecordInteger(line) != 0);
-  } else if (boIs(keyword, kPlanPoints)) {
+  } else if (boRecordIs(keyword, kPlanPoints)) {
     vReadPlanPoints(line, section);
   }
 }
@@ -265,8 +264,8 @@ bool boRmSectionSetReadRecords(AsfFile* file, AsfSection* section, RmSectionSet*
     }
     reader.State = Reading::kSection;
     if (!keyword[0]) continue;
-    if (boIs(keyword, kGroupEnd)) break;
-    if (boIs(keyword, kChain)) {
+    if (boRecordIs(keyword, kGroupEnd)) break;
+    if (boRecordIs(keyword, kChain)) {
       // A section that cannot be made takes the lines up to the next ":CHAIN".
       reader.Section = RmSectionAdd(set, nullptr, dRecordNumber(&line));
       reader.Layer = nullptr;

@@ -28,7 +28,6 @@ constexpr const char* kGroupEnd = ":GROUPEND";
 // Older files wrote reference heights as ranges of one height.
 constexpr int kLastRangedRefHeights = 5;
 
-bool boIs(const char* token, const char* keyword) { return std::strcmp(token, keyword) == 0; }
 
 // Offsets this close to 0 are not written.
 bool boOffset(float value) { return value >= 0.00001f || value <= -0.00001f; }
@@ -276,7 +275,7 @@ void vReadKeyword(GroupReader* reader, RecordLine* line) {
   const char* keyword = line->Token;
   const bool descrAllowed = reader->DescrAllowed;
   reader->DescrAllowed = false;
-  if (boIs(keyword, kGroup)) {
+  if (boRecordIs(keyword, kGroup)) {
     reader->Group = RmSurfaceGroupsAdd(reader->Groups, RmLayerIdFromFile(iRecordInteger(line)));
     reader->Surface = nullptr;
     reader->Rows = RowsOf::kNothing;
@@ -284,27 +283,27 @@ void vReadKeyword(GroupReader* reader, RecordLine* line) {
   }
   // Lines in front of the first group belong to none.
   if (!reader->Group) return;
-  if (reader->Rows == RowsOf::kBorderLines && !boIs(keyword, kGroupEnd)) {
+  if (reader->Rows == RowsOf::kBorderLines && !boRecordIs(keyword, kGroupEnd)) {
     // Rows of border lines run to their end line; anything else between is
     // passed over.
     return;
   }
   reader->Rows = RowsOf::kNothing;
-  if (boIs(keyword, kSurface)) {
+  if (boRecordIs(keyword, kSurface)) {
     const int32_t number = iRecordInteger(line);
     reader->Surface = RmSurfaceAdd(reader->Group, number);
     if (reader->Surface) reader->Surface->SecondNumber = iRecordInteger(line);
     reader->Rows = RowsOf::kSurface;
     reader->DescrAllowed = true;
-  } else if (boIs(keyword, kDescr)) {
+  } else if (boRecordIs(keyword, kDescr)) {
     if (descrAllowed && reader->Surface) vRmSurfaceSetDescr(reader->Surface, sRecordToken(line));
     reader->Rows = RowsOf::kSurface;
-  } else if (boIs(keyword, kRefHeights)) {
+  } else if (boRecordIs(keyword, kRefHeights)) {
     vRmSurfaceRefHeightsDelete(&reader->Group->RefHeights);
     reader->Group->RefHeights = RmSurfaceRefHeightsCreate();
     reader->HasRangeEnd = false;
     if (reader->Group->RefHeights) reader->Rows = RowsOf::kRefHeights;
-  } else if (boIs(keyword, kBorderLines)) {
+  } else if (boRecordIs(keyword, kBorderLines)) {
     vRmSurfaceBorderLinesDelete(&reader->Group->BorderLines);
     reader->Group->BorderLines = RmSurfaceBorderLinesCreate();
     if (reader->Group->BorderLines) reader->Rows = RowsOf::kBorderLines;

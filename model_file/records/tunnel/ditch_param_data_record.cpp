@@ -1,3 +1,4 @@
+#include "model_file/records/frame/record_line.h"
 #include "model_file/records/tunnel/ditch_param_data_record.h"
 
 #include <cstring>
@@ -64,7 +65,6 @@ constexpr RmKeywordLine<RmDitchOffsetCl> kOffsetLines[] = {
      .Real = &RmDitchOffsetCl::AdjustMaxAngle},
 };
 
-bool boIs(const char* keyword, const char* name) { return std::strcmp(keyword, name) == 0; }
 
 bool boPresent(const RmModel* model, const RmRecordFamily&) {
   return RmModelGetDitchParamData(model) != nullptr;
@@ -121,27 +121,27 @@ void vReadOldFoundation(RecordLine* line, Ditch* ditch) {
 
 void vReadLine(RecordLine* line, Ditch* ditch) {
   const char* keyword = line->Token;
-  if (boIs(keyword, kDesignBackfill)) {
+  if (boRecordIs(keyword, kDesignBackfill)) {
     ditch->DesignBackfill = iRecordInteger(line);
     ditch->DesignBackfillRock = ditch->DesignBackfill;
-  } else if (boIs(keyword, kDesignBackfillRock)) {
+  } else if (boRecordIs(keyword, kDesignBackfillRock)) {
     ditch->DesignBackfillRock = iRecordInteger(line);
-  } else if (boIs(keyword, kClipLayer)) {
+  } else if (boRecordIs(keyword, kClipLayer)) {
     ditch->ClipLayer = static_cast<uint32_t>(iRecordInteger(line));
-  } else if (boIs(keyword, kTrimLayer)) {
+  } else if (boRecordIs(keyword, kTrimLayer)) {
     ditch->TrimLayer = iRecordInteger(line);
-  } else if (boIs(keyword, kSpaceRefLine)) {
+  } else if (boRecordIs(keyword, kSpaceRefLine)) {
     ditch->SpaceRefLine = iRecordInteger(line);
-  } else if (boIs(keyword, kSpaceForPipe)) {
+  } else if (boRecordIs(keyword, kSpaceForPipe)) {
     double left = dRecordNumber(line);
     RmDitchPipeSpaceAdd(ditch, left, dRecordNumber(line));
-  } else if (boIs(keyword, kFoundationForPipe)) {
+  } else if (boRecordIs(keyword, kFoundationForPipe)) {
     double values[3];
     for (double& value : values) value = dRecordNumber(line);
     RmDitchPipeFoundationAdd(ditch, values);
-  } else if (boIs(keyword, kDistLeftWall) || boIs(keyword, kDistRightWall)) {
-    vReadOldWall(line, ditch, boIs(keyword, kDistLeftWall));
-  } else if (boIs(keyword, kThicknessFoundation)) {
+  } else if (boRecordIs(keyword, kDistLeftWall) || boRecordIs(keyword, kDistRightWall)) {
+    vReadOldWall(line, ditch, boRecordIs(keyword, kDistLeftWall));
+  } else if (boRecordIs(keyword, kThicknessFoundation)) {
     vReadOldFoundation(line, ditch);
   } else if (boRmKeywordLineRead<RmDitchOffsetCl>(line, &ditch->OffsetCl, kOffsetLines)) {
     ditch->HasOffsetCl = true;

@@ -1,3 +1,4 @@
+#include "model_file/records/frame/record_line.h"
 #include "model_file/records/tunnel/tunnel_data_lines.h"
 
 #include <cmath>
@@ -43,7 +44,6 @@ constexpr RmKeywordLine<RmTunnelStandard> kStandardLines[] = {
     {.Keyword = "HANGRADIUS", .Format = "%.3f", .Real = &RmTunnelStandard::HangRadius},
 };
 
-bool boIs(const char* keyword, const char* name) { return std::strcmp(keyword, name) == 0; }
 
 void vWriteGroup(AsfFile* file, AsfSection* section, const RmTunnelSurfaceGroup* group) {
   boRecordWrite(file, section, "%s %u", kSurfaces, group->LayerId);
@@ -102,19 +102,19 @@ void vReadRow(RecordLine* line, RmTunnelSurfaceGroup* group) {
 // The keywords of a surface group; false for another keyword.
 bool boReadGroupLine(RecordLine* line, RmTunnelSurfaceGroup* group) {
   const char* keyword = line->Token;
-  if (boIs(keyword, kClipLayer)) {
+  if (boRecordIs(keyword, kClipLayer)) {
     group->ClipLayer = static_cast<uint32_t>(iRecordInteger(line));
-  } else if (boIs(keyword, kRotationMethod)) {
+  } else if (boRecordIs(keyword, kRotationMethod)) {
     group->RotationMethod = iRecordInteger(line);
-  } else if (boIs(keyword, kStartType)) {
+  } else if (boRecordIs(keyword, kStartType)) {
     group->StartType = iRecordInteger(line);
-  } else if (boIs(keyword, kStartLayerNoOrExtraLine)) {
+  } else if (boRecordIs(keyword, kStartLayerNoOrExtraLine)) {
     group->StartLayerNoOrExtraLine = dRecordNumber(line, kNullNumber);
-  } else if (boIs(keyword, kStartPcode2)) {
+  } else if (boRecordIs(keyword, kStartPcode2)) {
     group->StartPcode2 = dRecordNumber(line, kNullNumber);
-  } else if (boIs(keyword, kStartXOffset)) {
+  } else if (boRecordIs(keyword, kStartXOffset)) {
     group->StartXOffset = dRecordNumber(line);
-  } else if (boIs(keyword, kStartYOffset)) {
+  } else if (boRecordIs(keyword, kStartYOffset)) {
     group->StartYOffset = dRecordNumber(line);
   } else {
     return false;
@@ -124,9 +124,9 @@ bool boReadGroupLine(RecordLine* line, RmTunnelSurfaceGroup* group) {
 
 // The keywords of a standard; false for another keyword.
 bool boReadStandardLine(RecordLine* line, RmTunnelStandard* standard) {
-  if (boIs(line->Token, kDescr)) {
+  if (boRecordIs(line->Token, kDescr)) {
     sCopy(standard->Descr, sRecordToken(line), sizeof standard->Descr);
-  } else if (boIs(line->Token, kVerticalSide)) {
+  } else if (boRecordIs(line->Token, kVerticalSide)) {
     standard->VerticalLeft = iRecordInteger(line);
     standard->VerticalRight = iRecordInteger(line);
   } else {
@@ -161,25 +161,25 @@ void vRmTunnelDataReadLine(RmTunnelDataReading* reading, RecordLine* line) {
   const char* keyword = line->Token;
   if (boRecordIsRow(line->Text)) {
     if (reading->Group) vReadRow(line, reading->Group);
-  } else if (boIs(keyword, kInterpolMethod)) {
+  } else if (boRecordIs(keyword, kInterpolMethod)) {
     data->InterpolMethod = iRecordInteger(line);
-  } else if (boIs(keyword, kRoadbedLayerNo)) {
+  } else if (boRecordIs(keyword, kRoadbedLayerNo)) {
     data->RoadbedLayerNo = iRecordInteger(line);
-  } else if (boIs(keyword, kTemplateChain)) {
+  } else if (boRecordIs(keyword, kTemplateChain)) {
     if (reading->TemplateChain) *reading->TemplateChain = dRecordNumber(line);
-  } else if (boIs(keyword, kSection)) {
+  } else if (boRecordIs(keyword, kSection)) {
     double chain = dRecordNumber(line);
     RmTunnelSectionAdd(data, chain, sRecordToken(line));
-  } else if (boIs(keyword, kRotation)) {
+  } else if (boRecordIs(keyword, kRotation)) {
     double chain = dRecordNumber(line);
     int method = iRecordInteger(line);
     RmTunnelRotationAdd(data, chain, method, dRecordNumber(line));
-  } else if (boIs(keyword, kPackage)) {
+  } else if (boRecordIs(keyword, kPackage)) {
     reading->Package = RmTunnelPackageAdd(data, sRecordToken(line));
     reading->Group = nullptr;
-  } else if (boIs(keyword, kStandard)) {
+  } else if (boRecordIs(keyword, kStandard)) {
     RmTunnelPackageMakeStandard(reading->Package);
-  } else if (boIs(keyword, kSurfaces)) {
+  } else if (boRecordIs(keyword, kSurfaces)) {
     reading->Group =
         RmTunnelSurfaceGroupAdd(reading->Package, static_cast<uint32_t>(iRecordInteger(line)));
   } else if (reading->Group && boReadGroupLine(line, reading->Group)) {

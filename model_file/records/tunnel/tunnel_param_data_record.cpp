@@ -1,3 +1,4 @@
+#include "model_file/records/frame/record_line.h"
 #include "model_file/records/tunnel/tunnel_param_data_record.h"
 
 #include <cstring>
@@ -69,7 +70,6 @@ constexpr RmKeywordLine<Info> kInfoEndLines[] = {
     {.Keyword = "BASELINEROADPOINT", .Format = "%d", .Integer = &Info::BaselineRoadPoint},
 };
 
-bool boIs(const char* keyword, const char* name) { return std::strcmp(keyword, name) == 0; }
 
 bool boPresent(const RmModel* model, const RmRecordFamily&) {
   const RmTunnelParamData* data = RmModelGetTunnelParamData(model);
@@ -112,13 +112,13 @@ void vWrite(AsfFile* file, AsfSection* section, const RmModel* model, const RmRe
 // The keywords of a range; false for another keyword.
 bool boReadRangeLine(RecordLine* line, RmTunnelParamRange* range) {
   const char* keyword = line->Token;
-  if (boIs(keyword, kName)) {
+  if (boRecordIs(keyword, kName)) {
     sCopy(range->Name, sRecordToken(line), sizeof range->Name);
-  } else if (boIs(keyword, kType)) {
+  } else if (boRecordIs(keyword, kType)) {
     range->Type = iRecordInteger(line);
-  } else if (boIs(keyword, kAttribute)) {
+  } else if (boRecordIs(keyword, kAttribute)) {
     range->Attribute = dRecordNumber(line);
-  } else if (boIs(keyword, kRoadConPcodes)) {
+  } else if (boRecordIs(keyword, kRoadConPcodes)) {
     range->RoadConPcodes[0] = iRecordInteger(line);
     range->RoadConPcodes[1] = iRecordInteger(line);
   } else {
@@ -129,7 +129,7 @@ bool boReadRangeLine(RecordLine* line, RmTunnelParamRange* range) {
 
 void vReadInfoLine(RecordLine* line, Info* info) {
   for (const CodePair& pair : kInfoPairs) {
-    if (!boIs(line->Token, pair.Keyword)) continue;
+    if (!boRecordIs(line->Token, pair.Keyword)) continue;
     (info->*pair.Codes)[0] = iRecordInteger(line);
     (info->*pair.Codes)[1] = iRecordInteger(line);
     return;
@@ -145,15 +145,15 @@ void vRead(AsfFile* file, AsfSection* section, RmModel* model, const RmRecordFam
   RmTunnelParamRange* range = nullptr;
   for (RecordLine line; data && boRecordNextLine(file, section, &line);) {
     const char* keyword = line.Token;
-    if (boIs(keyword, kLayers)) {
+    if (boRecordIs(keyword, kLayers)) {
       layer = RmTunnelParamLayerAdd(data, static_cast<uint32_t>(iRecordInteger(&line)));
       range = nullptr;
-    } else if (boIs(keyword, kRange)) {
+    } else if (boRecordIs(keyword, kRange)) {
       double from = dRecordNumber(&line);
       range = RmTunnelParamRangeAdd(layer, from, dRecordNumber(&line));
     } else if (!range) {
       continue;
-    } else if (boIs(keyword, kInfo)) {
+    } else if (boRecordIs(keyword, kInfo)) {
       RmTunnelParamRangeMakeInfo(range);
     } else if (!boReadRangeLine(&line, range) && range->Info) {
       vReadInfoLine(&line, range->Info);

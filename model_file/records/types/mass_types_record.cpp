@@ -1,3 +1,4 @@
+#include "model_file/records/frame/record_line.h"
 #include "model_file/records/types/mass_types_record.h"
 
 #include "base/fields.h"
@@ -110,7 +111,6 @@ constexpr Line kLines[] = {
     {.Keyword = "INFO", .Format = "%s", .When = RmWhen::kNotEmpty, .Text = &RmMassType::Info},
 };
 
-bool boIs(const char* keyword, const char* name) { return std::strcmp(keyword, name) == 0; }
 
 void vWriteType(AsfFile* file, AsfSection* section, const RmMassType* type) {
   char quoted[kRecordQuoteSize];
@@ -142,12 +142,12 @@ RmLayerListEntry* SingleAreaEntry(RmMassType* type) {
 void vReadKeyword(RmMassType* type, RecordLine* line) {
   const char* keyword = line->Token;
   if (boRmVocabularyLineRead<RmMassType>(line, type, kLines)) return;
-  if (boIs(keyword, kPres)) {
+  if (boRecordIs(keyword, kPres)) {
     vRmPresentationParse(&type->Pres, rm_vocabulary_detail::sRestOfLine(line));
-  } else if (boIs(keyword, kAreaLayer)) {
+  } else if (boRecordIs(keyword, kAreaLayer)) {
     RmLayerListEntry* entry = SingleAreaEntry(type);
     if (entry) entry->Id = RmLayerIdOfFileNumber(iRecordInteger(line));
-  } else if (boIs(keyword, kAreaSurfaceCodes)) {
+  } else if (boRecordIs(keyword, kAreaSurfaceCodes)) {
     RmLayerListEntry* entry = SingleAreaEntry(type);
     if (entry) vRmLayerListEntrySetFilter(entry, sRecordToken(line));
   }
@@ -172,16 +172,16 @@ void vReadTypes(AsfFile* file, AsfSection* section, RmMassTypes* types) {
     }
     inRanges = false;
     const char* keyword = line.Token;
-    if (boIs(keyword, kMassType) || boIs(keyword, kMeasurementDelivery) ||
-        boIs(keyword, kMeasurementDependencies)) {
+    if (boRecordIs(keyword, kMassType) || boRecordIs(keyword, kMeasurementDelivery) ||
+        boRecordIs(keyword, kMeasurementDependencies)) {
       vRmMassTypesPut(types, current);
       current = nullptr;
-      if (!boIs(keyword, kMassType)) continue;
+      if (!boRecordIs(keyword, kMassType)) continue;
       current = RmMassTypeCreate();
       if (!current) continue;
       current->Number = iRecordInteger(&line);
       sHeapSet(&current->Name, sRecordToken(&line));
-    } else if (current && boIs(keyword, kChainRanges)) {
+    } else if (current && boRecordIs(keyword, kChainRanges)) {
       inRanges = true;
     } else if (current) {
       vReadKeyword(current, &line);
