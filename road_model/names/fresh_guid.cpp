@@ -13,6 +13,8 @@ std::mt19937_64& Generator() {
 
 }  // namespace
 
+void vRmFreshGuidSeed(uint64_t seed) { Generator().seed(seed); }
+
 void vRmFreshGuid(char* out) {
   static constexpr char kDigits[] = "0123456789ABCDEF";
   uint64_t high = Generator()();

@@ -3,9 +3,15 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 
 inline constexpr size_t kRmGuidTextSize = 37;  // 36 characters and a terminator
 
 // Writes a new random GUID (version 4) into `out`, which has room for
 // kRmGuidTextSize bytes.
 void vRmFreshGuid(char* out);
+
+// Starts the calling thread's GUIDs over from `seed`, so that the same work
+// gives the same GUIDs: for output that is compared byte for byte. Fresh
+// GUIDs are otherwise seeded from the system's random device.
+void vRmFreshGuidSeed(uint64_t seed);
