@@ -166,9 +166,15 @@ bool boPlatformTempDirectory(char* out, size_t size);
 bool boPlatformFullPath(const char* path, char* out, size_t size);
 // The full path of the shared library or program that holds this code.
 bool boPlatformModulePath(char* out, size_t size);
+// Windows: the library's entry point hands over its module handle when the
+// library is loaded, and the module path above names that module. Without
+// it the module is found by the address of this code. Unused elsewhere.
+void vPlatformSetModuleHandle(void* module);
 
 // The search path of dynamic libraries. Here the libraries find each other
-// through their run path, so these keep the seam and change nothing.
+// through their run path, so these keep the seam and change nothing. On
+// Windows they are the DLL directory of the process; null restores the
+// system's own search order.
 bool boPlatformGetLibrarySearchPath(char* out, size_t size);
 void vPlatformSetLibrarySearchPath(const char* path);
 

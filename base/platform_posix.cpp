@@ -511,6 +511,9 @@ bool boPlatformModulePath(char* out, size_t size) {
   return boCopyOut(full, out, size);
 }
 
+// The loader tells which module holds the code; no handle is needed.
+void vPlatformSetModuleHandle(void*) {}
+
 bool boPlatformGetLibrarySearchPath(char* out, size_t size) {
   if (out && size) out[0] = 0;
   return true;

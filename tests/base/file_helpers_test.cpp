@@ -1,7 +1,11 @@
 #include <gtest/gtest.h>
 
+#ifdef _WIN32
+#include <windows.h>
+#else
 #include <fcntl.h>
 #include <sys/stat.h>
+#endif
 
 #include <cstdio>
 #include <cstring>
@@ -59,18 +63,23 @@ TEST_F(TempFilesTest, TempFileIsMadeBesideThePath) {
   std::string target = folder_ / "road.sfi";
   std::string first = sTempFileNear(target.c_str(), false);
   std::string second = sTempFileNear(target.c_str(), false);
-  std::string expectedStart = folder_ / "$$$_";
-  EXPECT_EQ(first.compare(0, expectedStart.size(), expectedStart), 0) << first;
+  // The full path, in the system's own form.
+  char expectedStart[4096];
+  ASSERT_TRUE(boPlatformFullPath((folder_ / "$$$_").c_str(), expectedStart, sizeof expectedStart));
+  EXPECT_EQ(first.compare(0, std::strlen(expectedStart), expectedStart), 0) << first;
+  EXPECT_EQ(first.size(), std::strlen(expectedStart) + 6) << first;
   EXPECT_NE(first, second);
   EXPECT_TRUE(boPlatformFileExists(first.c_str()));
   EXPECT_EQ(sReadWholeFile(first), "");
 
+#ifndef _WIN32
   // It takes the place of a model file, so it has the usual permissions.
   mode_t mask = umask(0);
   umask(mask);
   struct stat status;
   ASSERT_EQ(stat(first.c_str(), &status), 0);
   EXPECT_EQ(status.st_mode & 0777, 0666 & ~mask);
+#endif
 }
 
 TEST_F(TempFilesTest, SystemFolderOnlyWhenAllowed) {
@@ -92,6 +101,24 @@ TEST_F(TempFilesTest, UnusableFolderGivesTheEmptyText) {
   EXPECT_STREQ(sTempFileNear((folder_ / "missing/road.sfi").c_str(), false), "");
 }
 
+// 2001-09-09 01:46:40 UTC: 10^9 seconds after 1970, in 100 ns ticks since 1601.
+constexpr int64_t kBillennium = (1000000000LL + 11644473600LL) * 10000000LL;
+
+bool boSetWriteTimeToBillennium(const std::string& path) {
+#ifdef _WIN32
+  HANDLE file = CreateFileA(path.c_str(), FILE_WRITE_ATTRIBUTES, FILE_SHARE_READ, nullptr,
+                            OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+  if (file == INVALID_HANDLE_VALUE) return false;
+  FILETIME time = {static_cast<DWORD>(kBillennium), static_cast<DWORD>(kBillennium >> 32)};
+  bool set = SetFileTime(file, nullptr, nullptr, &time) != 0;
+  CloseHandle(file);
+  return set;
+#else
+  struct timespec times[2] = {{1000000000, 0}, {1000000000, 0}};
+  return utimensat(AT_FDCWD, path.c_str(), times, 0) == 0;
+#endif
+}
+
 TEST(FileTimes, WriteTimeOfAFile) {
   ScratchFolder folder;
   std::string path = folder / "road.sfi";
@@ -99,11 +126,9 @@ TEST(FileTimes, WriteTimeOfAFile) {
   EXPECT_FALSE(boFileGetTime(path.c_str(), &time));
   vWriteWholeFile(path, "x");
 
-  // 2001-09-09 01:46:40 UTC: 10^9 seconds after 1970.
-  struct timespec times[2] = {{1000000000, 0}, {1000000000, 0}};
-  ASSERT_EQ(utimensat(AT_FDCWD, path.c_str(), times, 0), 0);
+  ASSERT_TRUE(boSetWriteTimeToBillennium(path));
   ASSERT_TRUE(boFileGetTime(path.c_str(), &time));
-  EXPECT_EQ(time, (1000000000LL + 11644473600LL) * 10000000LL);
+  EXPECT_EQ(time, kBillennium);
   EXPECT_TRUE(boFileGetTime(path.c_str(), nullptr));
   EXPECT_EQ(iFileTimeCompare(time, lFileTimeNow()), -1);
   EXPECT_EQ(iFileTimeCompare(time, time), 0);
