@@ -12,6 +12,7 @@
 #include "model_file/container/asf_old_reader.h"
 #include "model_file/container/asf_open.h"
 #include "model_file/container/asf_sections.h"
+#include "model_file/container/asf_writer.h"
 
 namespace {
 
@@ -31,7 +32,10 @@ void vFreeHandle(AsfFile* file) {
     boAsfStreamClose(file->pReader->pStream);
     vAsfLineReaderDelete(file->pReader);
   }
+  // Bytes written after the finish still go out, as they did unbuffered.
+  if (file->pOut) boAsfWriteFlush(file);
   if (file->pOut && !boAsfStreamClose(file->pOut)) file->iWriteFailed = 1;
+  free(file->pOutBuffer);
   vAsfKeyListClear(&file->keys);
   vAsfSectionsClear(file);
   free(file->pFieldStore);
@@ -89,6 +93,11 @@ AsfFile* AsfFileCreate(const char* path) {
     return nullptr;
   }
   file->pOut = stream;
+  // A file gets its lines in blocks; without memory for the block it gets
+  // them one by one.
+  if (stream->pFile) {
+    file->pOutBuffer = static_cast<unsigned char*>(malloc(kAsfWriteBufferSize));
+  }
   file->iVersion = 2;
   file->boCurrentFormat = true;
   return file;
@@ -127,9 +136,17 @@ bool boAsfMemGet(const AsfFile* file, const char** outData, size_t* outSize) {
   return true;
 }
 
-int64_t lAsfStreamLength(const AsfFile* file) { return lAsfStreamSize(StreamOf(file)); }
+int64_t lAsfStreamLength(const AsfFile* file) {
+  int64_t size = lAsfStreamSize(StreamOf(file));
+  // A writer appends at the end, where the waiting bytes go.
+  if (size >= 0 && file->pOut) size += static_cast<int64_t>(file->uOutUsed);
+  return size;
+}
 
-int64_t lAsfStreamPos(const AsfFile* file) { return lAsfStreamTell(StreamOf(file)); }
+int64_t lAsfStreamPos(const AsfFile* file) {
+  if (file && file->pOut) return lAsfWritePos(file);
+  return lAsfStreamTell(StreamOf(file));
+}
 
 void vAsfExtentSet(AsfFile* file, AsfSection* section, const AsfExtent* extent) {
   if (!file) return;

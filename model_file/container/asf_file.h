@@ -165,6 +165,10 @@ bool boAsfFileWriteHead(AsfFile* file);
 // `length` 0 writes the text up to its terminator, otherwise that many bytes.
 bool boAsfSectionWriteLine(AsfFile* file, AsfSection* section, const char* text, size_t length);
 
+// Appends `size` bytes of whole lines, each ended by CR LF, to a section as
+// they stand: many lines in one write.
+bool boAsfSectionWriteText(AsfFile* file, AsfSection* section, const char* text, size_t size);
+
 // The next line of an O section. False at a line that starts with "[" or at
 // the end of the file. The line lives in the handle until the next read;
 // `outSize` is set to 0.

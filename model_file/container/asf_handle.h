@@ -10,6 +10,10 @@
 #include "model_file/container/asf_object_callbacks.h"
 #include "model_file/container/asf_stream.h"
 
+// The write buffer of a file handle. Small enough that a failing disk shows
+// while a section is being written, large enough for few stream writes.
+inline constexpr size_t kAsfWriteBufferSize = 65536;
+
 // The value of a field that has none. Every empty field points at this one
 // text, which is never freed.
 inline constexpr char kAsfEmptyText[] = "";
@@ -129,6 +133,12 @@ struct AsfFile {
   // element line of an older record) that ended what was read last and waits
   // in the line buffer for the next read; 0 when none waits.
   int32_t iHeldLine;
+
+  // Bytes written to a file handle that wait for the stream, in blocks of
+  // kAsfWriteBufferSize: one stream write for many lines. Null on read and
+  // memory handles (and when there was no memory for it), which write through.
+  unsigned char* pOutBuffer;
+  size_t uOutUsed;
 
   int32_t iWriteFailed;      // sticky
   bool boFinished;           // "[END]" is written

@@ -3,6 +3,10 @@
 #include <cstdlib>
 #include <cstring>
 
+#if defined(__SSE2__)
+#include <emmintrin.h>
+#endif
+
 namespace {
 
 bool boRefill(AsfLineReader* reader) {
@@ -63,6 +67,40 @@ void vCopyRun(AsfLineReader* reader, char* dest, size_t capacity, size_t* length
   *length += count;
   reader->uReadPos += count;
   reader->uLeft -= count;
+}
+
+// The index of the first CR or LF among the `count` bytes at `data`, or
+// `count` when there is none. Blocks of 16 bytes may read up to 15 bytes
+// behind the count, which the buffer's slack holds.
+size_t uFindLineEnd(const unsigned char* data, size_t count) {
+#if defined(__SSE2__)
+  const __m128i cr = _mm_set1_epi8('\r');
+  const __m128i lf = _mm_set1_epi8('\n');
+  for (size_t at = 0; at < count; at += 16) {
+    __m128i block = _mm_loadu_si128(reinterpret_cast<const __m128i*>(data + at));
+    __m128i ends = _mm_or_si128(_mm_cmpeq_epi8(block, cr), _mm_cmpeq_epi8(block, lf));
+    unsigned mask = static_cast<unsigned>(_mm_movemask_epi8(ends));
+    if (mask != 0) {
+      size_t found = at + static_cast<size_t>(__builtin_ctz(mask));
+      return found < count ? found : count;
+    }
+  }
+  return count;
+#else
+  size_t at = 0;
+  while (at < count && data[at] != '\r' && data[at] != '\n') ++at;
+  return at;
+#endif
+}
+
+// The length of the terminator whose first byte is at `end`, with at least
+// two bytes behind it in the buffer; 0 for CR CR without LF, which leaves
+// bytes pending and is left to the byte-wise reading.
+size_t uTerminatorLength(const unsigned char* end) {
+  if (end[0] == '\n') return end[1] == '\r' ? 2 : 1;
+  if (end[1] == '\n') return 2;
+  if (end[1] != '\r') return 1;
+  return end[2] == '\n' ? 3 : 0;
 }
 
 }  // namespace
@@ -136,6 +174,23 @@ bool boAsfLineReadBounded(AsfLineReader* reader, char* dest, size_t size) {
     reader->uReadPos += reader->uLeft;
     reader->uLeft = 0;
   }
+}
+
+const char* sAsfLineReadInPlace(AsfLineReader* reader, char* fallback, size_t size) {
+  if (reader && fallback && size >= 2 && reader->iPending == 0) {
+    unsigned char* start = reader->acBuffer + reader->uReadPos;
+    size_t left = reader->uLeft;
+    size_t at = uFindLineEnd(start, left < size ? left : size);
+    size_t ending = at + 2 < left && at < size - 1 ? uTerminatorLength(start + at) : 0;
+    if (ending > 0) {
+      start[at] = 0;
+      reader->uReadPos += at + ending;
+      reader->uLeft -= at + ending;
+      ++reader->iLine;
+      return reinterpret_cast<const char*>(start);
+    }
+  }
+  return boAsfLineReadBounded(reader, fallback, size) ? fallback : nullptr;
 }
 
 bool boAsfLineRewind(AsfLineReader* reader) {

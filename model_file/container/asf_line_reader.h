@@ -1,4 +1,5 @@
-// Line reading over an AsfStream, through one 262,144-byte buffer.
+// Line reading over an AsfStream, through one 262,144-byte buffer. Lines
+// that the buffer holds whole are handed out in place, without a copy.
 //
 // A line ends at CR or LF. The terminators taken are LF, LF CR, CR, CR LF and
 // CR CR LF. After CR CR and another byte the two bytes stay pending, and the
@@ -15,6 +16,8 @@
 #include "model_file/container/asf_stream.h"
 
 inline constexpr size_t kAsfReadBufferSize = 262144;
+// Bytes behind the buffer that the search for a line end may read in blocks.
+inline constexpr size_t kAsfReadBufferSlack = 16;
 
 struct AsfLineReader {
   AsfStream* pStream;
@@ -23,7 +26,7 @@ struct AsfLineReader {
   size_t uLeft;
   size_t uReadPos;
   int32_t iLine;
-  unsigned char acBuffer[kAsfReadBufferSize];
+  unsigned char acBuffer[kAsfReadBufferSize + kAsfReadBufferSlack];
 };
 
 // Results of iAsfLineRead.
@@ -51,6 +54,14 @@ int iAsfLineRead(AsfLineReader* reader, char* dest, size_t capacity, size_t* out
 // bytes, and the rest of it is skipped up to and with the next LF. False at
 // the end of the file.
 bool boAsfLineReadBounded(AsfLineReader* reader, char* dest, size_t size);
+
+// Reads the same line as boAsfLineReadBounded, with `fallback` of `size`
+// bytes, and returns it; null at the end of the file. When the buffer holds
+// the whole line, shorter than size - 1, and the bytes that decide its
+// terminator, the line is left where it stands: its first terminator byte
+// becomes 0 and the result points into the buffer, valid until the next read
+// or move. Any other line is read into `fallback`, which the result then is.
+const char* sAsfLineReadInPlace(AsfLineReader* reader, char* fallback, size_t size);
 
 // Moves to the point where `line` lines have been read: forward by reading,
 // backward by starting again from the top. False if the file ends first.

@@ -29,6 +29,22 @@ bool boScanForHead(AsfFile* file, const char* head, size_t length) {
   return false;
 }
 
+// The next line of a text body, in the reader's buffer when it lies there
+// whole. A line that opens a section is kept in the line buffer, where the
+// search for the next body looks first; after any other line read in place
+// the line buffer is emptied, as it no longer holds the line in front of the
+// reader.
+const char* sReadTextLine(AsfFile* file) {
+  const char* line = sAsfLineReadInPlace(file->pReader, file->acLine, kAsfLineSize);
+  if (!line || line == file->acLine) return line;
+  if (line[0] != '[') {
+    file->acLine[0] = 0;
+    return line;
+  }
+  vAsfCopyText(file->acLine, kAsfLineSize, line);
+  return file->acLine;
+}
+
 }  // namespace
 
 char cAsfTypeLetter(int type) {
@@ -161,10 +177,12 @@ bool boAsfSectionNextLine(AsfFile* file, AsfSection* section, const char** outLi
   if (outSize) *outSize = 0;
   if (!file || !section || !file->pReader) return false;
   if (section->iLine == 0 && !boAsfSectionFindBody(file, section)) return false;
+  const char* line = nullptr;
   do {
-    if (!boAsfReadLine(file) || file->acLine[0] == '[') return false;
+    line = sReadTextLine(file);
+    if (!line || line[0] == '[') return false;
     // Older files leave empty lines between the lines of a layer.
-  } while (file->boOldFormat && file->acLine[0] == 0);
-  if (outLine) *outLine = file->acLine;
+  } while (file->boOldFormat && line[0] == 0);
+  if (outLine) *outLine = line;
   return true;
 }

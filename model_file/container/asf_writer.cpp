@@ -13,7 +13,7 @@ constexpr char kLineEnd[] = "\r\n";
 // Writes a padded `_EXTENT` line and remembers where it starts, so that it
 // can be overwritten at the end.
 bool boWritePlaceholder(AsfFile* file, const AsfExtent& extent, int64_t* outOffset) {
-  int64_t offset = lAsfStreamTell(file->pOut);
+  int64_t offset = lAsfWritePos(file);
   *outOffset = offset > 0 ? offset : 0;
   char line[kAsfPlaceholderWidth + 1];
   vAsfExtentLineFormat(extent, true, line, sizeof line);
@@ -24,13 +24,22 @@ bool boWritePlaceholder(AsfFile* file, const AsfExtent& extent, int64_t* outOffs
 void vPatchPlaceholder(AsfFile* file, int64_t offset, const AsfExtent& extent) {
   char line[kAsfPlaceholderWidth + 1];
   vAsfExtentLineFormat(extent, true, line, sizeof line);
+  // What waits in the buffer belongs behind the position to come back to.
+  boAsfWriteFlush(file);
   int64_t back = lAsfStreamTell(file->pOut);
   if (back < 0 || !boAsfStreamSeek(file->pOut, offset, 0)) {
     file->iWriteFailed = 1;
     return;
   }
-  boAsfWriteBytes(file, line, kAsfPlaceholderWidth);
-  if (!boAsfStreamSeek(file->pOut, back, 0)) file->iWriteFailed = 1;
+  bool written = uAsfStreamWrite(file->pOut, line, kAsfPlaceholderWidth) == kAsfPlaceholderWidth;
+  if (!written || !boAsfStreamSeek(file->pOut, back, 0)) file->iWriteFailed = 1;
+}
+
+// Writes straight to the stream.
+bool boWriteThrough(AsfFile* file, const void* data, size_t size) {
+  if (uAsfStreamWrite(file->pOut, data, size) == size) return true;
+  file->iWriteFailed = 1;
+  return false;
 }
 
 bool boWriteKeys(AsfFile* file, const AsfKeyList& keys, char* buffer, size_t size,
@@ -92,9 +101,27 @@ bool boWriteDirectoryEntry(AsfFile* file, AsfSection* section, char letter) {
 bool boAsfWriteBytes(AsfFile* file, const void* data, size_t size) {
   if (!file || !file->pOut) return false;
   if (size == 0) return true;
-  if (uAsfStreamWrite(file->pOut, data, size) == size) return true;
-  file->iWriteFailed = 1;
-  return false;
+  if (!file->pOutBuffer) return boWriteThrough(file, data, size);
+  if (size > kAsfWriteBufferSize - file->uOutUsed) {
+    if (!boAsfWriteFlush(file)) return false;
+    if (size >= kAsfWriteBufferSize) return boWriteThrough(file, data, size);
+  }
+  memcpy(file->pOutBuffer + file->uOutUsed, data, size);
+  file->uOutUsed += size;
+  return true;
+}
+
+bool boAsfWriteFlush(AsfFile* file) {
+  if (!file || !file->pOut || file->uOutUsed == 0) return true;
+  size_t used = file->uOutUsed;
+  file->uOutUsed = 0;
+  return boWriteThrough(file, file->pOutBuffer, used);
+}
+
+int64_t lAsfWritePos(const AsfFile* file) {
+  if (!file || !file->pOut) return -1;
+  int64_t pos = lAsfStreamTell(file->pOut);
+  return pos < 0 ? pos : pos + static_cast<int64_t>(file->uOutUsed);
 }
 
 bool boAsfWriteLine(AsfFile* file, const char* text, size_t length) {
@@ -170,6 +197,11 @@ bool boAsfSectionWriteLine(AsfFile* file, AsfSection* section, const char* text,
   return boAsfWriteLine(file, text, length);
 }
 
+bool boAsfSectionWriteText(AsfFile* file, AsfSection* section, const char* text, size_t size) {
+  if (!boAsfSectionStart(file, section)) return false;
+  return text && boAsfWriteBytes(file, text, size);
+}
+
 bool boAsfFileFinish(AsfFile* file) {
   if (!file || !file->pOut) return false;
   if (file->boFinished) return !file->iWriteFailed;
@@ -185,6 +217,7 @@ bool boAsfFileFinish(AsfFile* file) {
       vPatchPlaceholder(file, section->lPlaceholderOffset, section->extent);
     }
   }
+  boAsfWriteFlush(file);
   if (!boAsfStreamFlush(file->pOut)) file->iWriteFailed = 1;
   return !file->iWriteFailed;
 }

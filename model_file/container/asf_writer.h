@@ -10,9 +10,17 @@
 // The size of the buffer in which a head key's line is put together.
 inline constexpr size_t kAsfHeadKeyLineSize = 256;
 
-// Writes bytes as they stand. A short write sets the sticky failure flag and
-// gives false.
+// Writes bytes as they stand, through the handle's write buffer when it has
+// one. A short write sets the sticky failure flag and gives false; with the
+// buffer, the write that hands the buffer to the stream does.
 bool boAsfWriteBytes(AsfFile* file, const void* data, size_t size);
+
+// Hands what waits in the write buffer to the stream. A short write sets the
+// failure flag, drops the bytes and gives false.
+bool boAsfWriteFlush(AsfFile* file);
+
+// The position of the next byte written: the stream's and what waits.
+int64_t lAsfWritePos(const AsfFile* file);
 
 // Writes `length` bytes of `text` (0: up to its terminator), then CR LF.
 bool boAsfWriteLine(AsfFile* file, const char* text, size_t length);

@@ -21,12 +21,12 @@ inline constexpr size_t kRmPointLineSize = 128;
 // returns its length.
 size_t uRmPointLineFormat(const RmPoint* point, char* buffer);
 
-// Reads the columns of a point line from `text` up to `end` (its
-// terminator) into the point: offset, height, PCODE (the bits above it
-// kept), radius and mark. A missing column reads as 0; a missing mark
-// clears it. "-0" reads as a plain 0 and is written back as "0"; "-0.0"
-// reads as a zero with its sign.
-void vRmPointLineRead(const char* text, const char* end, RmPoint* point);
+// Reads the columns of a point line from `text` up to its terminator into
+// the point: offset, height, PCODE (the bits above it kept), radius and
+// mark, as the model file's number readers read them. A missing column
+// reads as 0; a missing mark clears it. "-0" reads as a plain 0 and is
+// written back as "0"; "-0.0" reads as a zero with its sign.
+void vRmPointLineRead(const char* text, RmPoint* point);
 
 // Prints `value` as "%.4f" does, then drops closing zeros and a bare point.
 // Exact for every single-precision value. Returns the end of the text; the

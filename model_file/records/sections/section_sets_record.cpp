@@ -101,14 +101,30 @@ void vWriteBuildInfo(AsfFile* file, AsfSection* out, const RmLayer* layer) {
   if (info->OppositeDiagonal == 1) boRecordWrite(file, out, "%s %d", kOppositeDiagonal, 1);
 }
 
+// The point lines of a layer go out in blocks of lines with their CR LF.
+constexpr size_t kPointBlockSize = 8192;
+
 void vWriteLayer(AsfFile* file, AsfSection* out, const RmLayer* layer) {
-  boRecordWrite(file, out, "%s %u", kLayer, static_cast<unsigned>(iRmLayerIdToFile(layer->Id)));
+  // "LAYER number", the number as "%u" prints it.
+  char head[32];
+  std::memcpy(head, kLayer, sizeof kLayer - 1);
+  head[sizeof kLayer - 1] = ' ';
+  char* end = pWriteDigits(head + sizeof kLayer,
+                           static_cast<unsigned>(iRmLayerIdToFile(layer->Id)));
+  boAsfSectionWriteLine(file, out, head, static_cast<size_t>(end - head));
   vWriteBuildInfo(file, out, layer);
-  char line[kRmPointLineSize];
+  char block[kPointBlockSize];
+  size_t used = 0;
   for (const RmPoint* point = RmPointsGetFirst(layer); point; point = point->Next) {
-    size_t length = uRmPointLineFormat(point, line);
-    boAsfSectionWriteLine(file, out, line, length);
+    if (kPointBlockSize - used < kRmPointLineSize + 1) {
+      boAsfSectionWriteText(file, out, block, used);
+      used = 0;
+    }
+    used += uRmPointLineFormat(point, block + used);
+    block[used++] = '\r';
+    block[used++] = '\n';
   }
+  if (used > 0) boAsfSectionWriteText(file, out, block, used);
 }
 
 void vWriteSection(AsfFile* file, AsfSection* out, const RmSection* section, bool crossSection) {
@@ -220,7 +236,7 @@ void vReadSectionKeyword(SetReader* reader, const char* keyword, RecordLine* lin
 
 void vReadPointLine(RmLayer* layer, const char* text) {
   RmPoint* point = RmPointAddBefore(layer, nullptr);
-  if (point) vRmPointLineRead(text, text + std::strlen(text), point);
+  if (point) vRmPointLineRead(text, point);
 }
 
 void vReadMassRow(RmSection* section, RecordLine* line) {

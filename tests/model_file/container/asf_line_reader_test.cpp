@@ -108,3 +108,53 @@ TEST(AsfLineReader, TerminatorsAcrossBufferRefills) {
   EXPECT_EQ(lengths, (std::vector<size_t>{kAsfReadBufferSize - 1, 1, kAsfReadBufferSize - 5, 1}));
   EXPECT_EQ(reader.get()->iLine, 3);
 }
+
+TEST(AsfLineReader, InPlaceGivesTheLinesOfTheBoundedRead) {
+  // Every line with the number after it, read in place or bounded.
+  auto lines = [](const std::string& bytes, size_t size, bool inPlace) {
+    Reader reader(bytes);
+    std::string fallback(size, 0);
+    Lines read;
+    for (;;) {
+      const char* line = fallback.data();
+      if (inPlace) {
+        line = sAsfLineReadInPlace(reader.get(), fallback.data(), size);
+        if (!line) break;
+      } else if (!boAsfLineReadBounded(reader.get(), fallback.data(), size)) {
+        break;
+      }
+      read.push_back(std::string(line) + "@" + std::to_string(reader.get()->iLine));
+    }
+    return read;
+  };
+  // Lines up to `offset` bytes in front of the buffer's edge, then `tail`.
+  auto atEdge = [](size_t offset, const std::string& tail) {
+    return std::string(kAsfReadBufferSize - offset - 8, 'p') + "\r\nxy\r\nz\n" + tail;
+  };
+  struct Case {
+    std::string bytes;
+    size_t size;
+  };
+  // The first line fills the buffer and leaves nothing pending after its
+  // CR LF, so the lines behind it are in place.
+  std::vector<Case> cases = {
+      {"0\r\nlf\nlfcr\n\rcr\rcrlf\r\ncrcrlf\r\r\nlast", 16},
+      {"0\r\na\r\rb\r\n\r\r\n\r\rc", 16},
+      // Cut lines, one of exactly size - 1 bytes in front of a CR.
+      {"0\r\nabcdefgh\r\nnext\nlongline\rlost\rlost\nfinal", 5},
+      {"0\r\nabcd\rlost\nnext\n", 5},
+      {"0\r\nabc\rkept\n", 5},
+      // Lines longer than the buffer, cut and whole.
+      {std::string(kAsfReadBufferSize + 10, 'q') + "\r\nz", 64},
+      {"a\n" + std::string(kAsfReadBufferSize + 10, 'q') + "\r\nz", kAsfReadBufferSize + 20},
+  };
+  for (size_t offset = 0; offset < 6; ++offset) {
+    for (const char* tail : {"line\r\nnext\r\n", "ab\r\r\ncd\n\re\r\rf", "end"}) {
+      cases.push_back({atEdge(offset, tail), 64});
+    }
+  }
+  for (const Case& c : cases) {
+    EXPECT_EQ(lines(c.bytes, c.size, true), lines(c.bytes, c.size, false))
+        << c.bytes.substr(c.bytes.size() > 40 ? c.bytes.size() - 40 : 0);
+  }
+}

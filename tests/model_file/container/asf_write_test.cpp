@@ -94,6 +94,35 @@ TEST(AsfWrite, FileHandleWritesTheSameBytes) {
     EXPECT_FALSE(boAsfMemGet(file, nullptr, nullptr));
   }
   EXPECT_EQ(sReadWholeFile(path), kSampleBytes);
+
+  // Bodies far longer than the file's write buffer, by lines, by short blocks
+  // of lines and by blocks longer than the buffer: the bytes of memory.
+  auto writeLong = [](AsfFile* file) {
+    vWriteSample(file);
+    std::string shortBlock;
+    std::string longBlock;
+    for (int i = 0; i < 6000; ++i) {
+      std::string line = " " + std::to_string(i) + " 1.5 -2\r\n";
+      if (i < 40) shortBlock += line;
+      longBlock += line;
+    }
+    AsfSection* behind = file->pLastSection;
+    for (int i = 0; i < 12; ++i) {
+      EXPECT_TRUE(boAsfSectionWriteLine(file, behind, "LAYER 12", 0));
+      const std::string& block = i % 3 == 0 ? longBlock : shortBlock;
+      EXPECT_TRUE(boAsfSectionWriteText(file, behind, block.data(), block.size()));
+    }
+  };
+  OwnedFile memory(AsfFileCreate(nullptr));
+  writeLong(memory);
+  ASSERT_TRUE(boAsfFileFinish(memory));
+  std::string longPath = folder / "long.sfi";
+  {
+    OwnedFile file(AsfFileCreate(longPath.c_str()));
+    ASSERT_NE(file, nullptr);
+    writeLong(file);
+  }
+  EXPECT_EQ(sReadWholeFile(longPath), MemBytes(memory));
 }
 
 TEST(AsfWrite, KeyLinesAreCutToTheirBuffers) {

@@ -10,6 +10,7 @@
 #include <random>
 #include <string>
 
+#include "base/numbers.h"
 #include "geometry/line.h"
 #include "model_file/records/sections/section_point_line.h"
 #include "road_model/model/model_parts.h"
@@ -117,7 +118,7 @@ TEST(SectionRecords, PointLinesChooseTheirFormByMarkAndRadius) {
 
   // Reading keeps the bits above the code and clears a missing mark.
   const char* text = " 1.5 -2.25 -30105";
-  vRmPointLineRead(text, text + std::strlen(text), &point);
+  vRmPointLineRead(text, &point);
   EXPECT_EQ(point.X, 1.5f);
   EXPECT_EQ(point.Z, -2.25f);
   EXPECT_EQ(point.Radius, 0.0f);
@@ -126,7 +127,7 @@ TEST(SectionRecords, PointLinesChooseTheirFormByMarkAndRadius) {
   EXPECT_EQ(point.Code >> 26, 0x3Cu);
   // A line cut short reads as zeros.
   text = " 7";
-  vRmPointLineRead(text, text + 2, &point);
+  vRmPointLineRead(text, &point);
   EXPECT_EQ(point.X, 7.0f);
   EXPECT_EQ(point.Z, 0.0f);
   EXPECT_EQ(iRmPointGetPcode(&point), 0);
@@ -150,6 +151,47 @@ TEST(SectionRecords, AMinusZeroReadsAsZeroUnlessAPointFollows) {
               sCrLf({":CHAIN 10.0000", "CLRANG 0.00000 0.00000 0.000 0.000 0.000000 0",
                      "LAYER 12", c.written}))
         << c.read;
+  }
+}
+
+TEST(SectionRecords, PointLinesReadAsTheNumberReadersReadThem) {
+  // The point line reads its common forms on its own; every form, odd ones
+  // included, must give what the number readers give column by column.
+  const char* lines[] = {
+      " 1.5 -2.25 -30105 250.5 2",
+      " -0 -0.0 0 -0.5 -1",
+      " 0.0001 99999.9999 1 0.00001 3",
+      " 3. 2.-5 7.5 1e5 +3",
+      " 123456789.123456789 -1234567890.5 12345678901 .5 -.5",
+      " 1.5x 2 3. \xff.1234567890123",
+      "\xff.11111111111111111111 7",
+      "  4  ",
+      "",
+  };
+  for (const char* text : lines) {
+    const char* place = text;
+    const char* stop = text + std::strlen(text);
+    auto next = [&](auto read) {
+      while (*place == ' ') ++place;
+      if (place >= stop) return decltype(read(place, &place))(0);
+      const char* end = nullptr;
+      auto value = read(place, &end);
+      // A reader that took the terminator for a digit ends the line there.
+      place = end > stop ? stop : end;
+      return value;
+    };
+    RmPoint expected{};
+    expected.X = static_cast<float>(next(dParseNumber));
+    expected.Z = static_cast<float>(next(dParseNumber));
+    int pcode = static_cast<int>(next(lParseInteger));
+    expected.Radius = static_cast<float>(next(dParseNumber));
+    int mark = static_cast<int>(next(lParseInteger));
+    RmPoint point{};
+    vRmPointLineRead(text, &point);
+    EXPECT_EQ(std::memcmp(&point.X, &expected.X, sizeof(float)), 0) << text;
+    EXPECT_EQ(std::memcmp(&point.Z, &expected.Z, sizeof(float)), 0) << text;
+    EXPECT_EQ(std::memcmp(&point.Radius, &expected.Radius, sizeof(float)), 0) << text;
+    EXPECT_EQ(point.Code, uRmCodeWordWithMark(uRmCodeWordWithPcode(0, pcode), mark)) << text;
   }
 }
 
