@@ -31,12 +31,27 @@ constexpr double kSplitSoddingsVersion = 10.0;
 const char kEdgeReinforcement[] = "Kantforsterkning";
 const char kRoadBed[] = "Trau";
 
+// Where the search for the next section may start: every section in front
+// of `From` stands before `Chain`, so that for a chainage from `Chain` on
+// the first section at it or beyond lies at `From` or behind it. The
+// design's sections mostly come by rising chainage, and each is then found
+// without walking the road from its start again.
+struct SectionCursor {
+  RmSection* From = nullptr;
+  double Chain = 0.0;
+};
+
 // The cross section at `chain`: the one that stands there, or a new one in
-// its place by chainage.
-RmSection* SectionAt(RmSectionSet* set, double chain, RmModel* model) {
-  RmSection* found = RmSectionsFindFirstFrom(set, chain);
-  if (found && std::fabs(found->Chain - chain) < kSameChain) return found;
-  return VipsAddSection(set, found, chain, model);
+// its place by chainage (in front of the first section at it or beyond).
+RmSection* SectionAt(RmSectionSet* set, double chain, RmModel* model, SectionCursor* cursor) {
+  RmSection* found =
+      cursor->From && chain >= cursor->Chain ? cursor->From : RmSectionsGetFirst(set);
+  while (found && !(found->Chain >= chain)) found = found->Next;
+  if (!found || std::fabs(found->Chain - chain) >= kSameChain) {
+    found = VipsAddSection(set, found, chain, model);
+  }
+  if (found) *cursor = {found, chain};
+  return found;
 }
 
 // The designed lines of one section besides its surface line and pavement.
@@ -84,11 +99,12 @@ void vVipsReadTheoreticalProfiles(const NpDesignModel::CResultData* res,
   RmSurfaceRefHeights* heights = nullptr;
   if (group) heights = group->RefHeights ? group->RefHeights : RmSurfaceRefHeightsCreate();
 
+  SectionCursor cursor;
   for (const NpDesignModel::CRResultSection* source : res->GetSections()) {
     const CRModelSection* ms = source->GetModel();
     const double ref = ms->GetRefElevation();
     const double chain = source->GetChainage();
-    RmSection* section = SectionAt(set, chain, model);
+    RmSection* section = SectionAt(set, chain, model, &cursor);
     if (!section) break;
     if (heights) {
       if (RmSurfaceRefHeight* row = RmSurfaceRefHeightAdd(heights, chain)) {
