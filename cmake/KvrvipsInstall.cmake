@@ -23,6 +23,30 @@ foreach(dir CMAKE_INSTALL_BINDIR CMAKE_INSTALL_LIBDIR CMAKE_INSTALL_INCLUDEDIR
   endif()
 endforeach()
 
+# Windows: the host loads kvrvips.dll from its folder, and the DLL finds the
+# design-model DLL and the converter beside itself, so everything lies in
+# bin/ (the tool finds the settings there too). CPack packs the installed
+# tree into one archive for an integrator: `cpack -G ZIP` in the build folder.
+#
+#   <prefix>/bin/kvrvips.dll, DesignModelAPIbfildi.dll
+#   <prefix>/bin/kvrvips.exe, kvrvips_convert_gen.exe
+#   <prefix>/bin/factory_settings.ini
+#   <prefix>/include/kvrvips/kvrvips.h, <prefix>/lib/libkvrvips.dll.a
+if(WIN32)
+  install(TARGETS kvrvips DesignModelAPIbfildi kvrvips_cli kvrvips_convert_gen
+    RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
+    ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
+  install(FILES ${PROJECT_SOURCE_DIR}/include/kvrvips/kvrvips.h
+    DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/kvrvips)
+  install(FILES ${PROJECT_SOURCE_DIR}/examples/${KVRVIPS_SETTINGS_NAME}
+    DESTINATION ${KVRVIPS_SETTINGS_DIR})
+  set(CPACK_GENERATOR ZIP)
+  set(CPACK_PACKAGE_VENDOR kvrvips)
+  set(CPACK_SYSTEM_NAME windows-x86_64)
+  include(CPack)
+  return()
+endif()
+
 file(RELATIVE_PATH bin_to_lib /root/${CMAKE_INSTALL_BINDIR} /root/${CMAKE_INSTALL_LIBDIR})
 # One RPATH serves both copies of the converter: the one in bin/ finds the
 # libraries through the first entry, the one in lib/ through the second.

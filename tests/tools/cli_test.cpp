@@ -109,7 +109,7 @@ TEST(KvrvipsTool, ConvertsTheExampleWithTheDefaultSettings) {
   EXPECT_EQ(run.sErr, "");
   EXPECT_TRUE(
       sReadWholeFile(model).starts_with("[KVRFILE_ASCII]\r\n_VERSION 2\r\n_FILETYPE sfi\r\n"));
-  EXPECT_TRUE(sReadWholeFile(folder / "road.log")
+  EXPECT_TRUE(sReadTextFile(folder / "road.log")
                   .starts_with("Import VIPS database (.gen fil)\nVersion: Np21 Type: Road\n"));
 }
 
@@ -134,7 +134,7 @@ TEST(KvrvipsTool, FailedConversionsExitWithOneAndLeaveTheModelAlone) {
                           "kvrvips: converting " + design + " failed; " + model +
                           " is left as it was\n"
                           "kvrvips: the log tells more: " + log + "\n");
-  EXPECT_EQ(sReadWholeFile(log),
+  EXPECT_EQ(sReadTextFile(log),
             "Illegal file (cannot read content properly)File version is incorrect"
             "File already openFile access denied\n");
   EXPECT_EQ(sReadWholeFile(model), oldModel);

@@ -1,16 +1,22 @@
 // Runs one of the built programs as a child process and keeps what it wrote.
 #pragma once
 
+#ifdef _WIN32
+#define NOMINMAX
+#define WIN32_LEAN_AND_MEAN
+#include <windows.h>
+#else
 #include <fcntl.h>
 #include <spawn.h>
 #include <sys/wait.h>
+
+extern char** environ;
+#endif
 
 #include <string>
 #include <vector>
 
 #include "tests/support/scratch_folder.h"
-
-extern char** environ;
 
 struct ProgramRun {
   int iStatus = -1;  // the exit status as the parent sees it; -1: not run or not exited
@@ -20,6 +26,65 @@ struct ProgramRun {
 
 // Runs `command` (the program and its arguments, passed as they stand) with
 // standard output and error sent to files of a scratch folder.
+#ifdef _WIN32
+// One word of a Windows command line, quoted so that the program's start-up
+// code hands it over as it stands: backslashes are doubled only before a
+// quote.
+inline void vAppendCommandWord(std::string& line, const std::string& word) {
+  if (!line.empty()) line += ' ';
+  if (!word.empty() && word.find_first_of(" \t\"") == std::string::npos) {
+    line += word;
+    return;
+  }
+  line += '"';
+  size_t backslashes = 0;
+  for (char c : word) {
+    if (c == '\\') {
+      ++backslashes;
+      continue;
+    }
+    line.append(c == '"' ? 2 * backslashes + 1 : backslashes, '\\');
+    backslashes = 0;
+    line += c;
+  }
+  line.append(2 * backslashes, '\\');
+  line += '"';
+}
+
+inline ProgramRun RunProgram(const std::vector<std::string>& command) {
+  ProgramRun run;
+  ScratchFolder folder;
+  const std::string outFile = folder / "stdout";
+  const std::string errFile = folder / "stderr";
+  SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
+  HANDLE out = CreateFileA(outFile.c_str(), GENERIC_WRITE, FILE_SHARE_READ, &inherited,
+                           CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
+  HANDLE err = CreateFileA(errFile.c_str(), GENERIC_WRITE, FILE_SHARE_READ, &inherited,
+                           CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
+  std::string line;
+  for (const std::string& word : command) vAppendCommandWord(line, word);
+  STARTUPINFOA startup{};
+  startup.cb = sizeof startup;
+  startup.dwFlags = STARTF_USESTDHANDLES;
+  startup.hStdInput = GetStdHandle(STD_INPUT_HANDLE);
+  startup.hStdOutput = out;
+  startup.hStdError = err;
+  PROCESS_INFORMATION process{};
+  BOOL started = CreateProcessA(nullptr, line.data(), nullptr, nullptr, TRUE, 0, nullptr,
+                                nullptr, &startup, &process);
+  CloseHandle(out);
+  CloseHandle(err);
+  if (!started) return run;
+  WaitForSingleObject(process.hProcess, INFINITE);
+  DWORD code = 0;
+  if (GetExitCodeProcess(process.hProcess, &code)) run.iStatus = static_cast<int>(code);
+  CloseHandle(process.hThread);
+  CloseHandle(process.hProcess);
+  run.sOut = sReadWholeFile(outFile);
+  run.sErr = sReadWholeFile(errFile);
+  return run;
+}
+#else
 inline ProgramRun RunProgram(const std::vector<std::string>& command) {
   ProgramRun run;
   ScratchFolder folder;
@@ -43,3 +108,4 @@ inline ProgramRun RunProgram(const std::vector<std::string>& command) {
   run.sErr = sReadWholeFile(errFile);
   return run;
 }
+#endif

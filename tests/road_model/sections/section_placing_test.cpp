@@ -215,7 +215,7 @@ TEST(DiffAwareHeight, AMissingSlopeIsLoggedOncePerConversion) {
   EXPECT_NEAR(dRmVerLineHeightDiffAware(verLine, 30.0, &slope), 21.5, 1e-12);
   EXPECT_NEAR(dRmVerLineHeightDiffAware(verLine, 40.0, &slope), 22.5, 1e-12);
   EXPECT_EQ(slope, 7.0);
-  std::string log = sReadWholeFile(folder / "conversion.log");
+  std::string log = sReadTextFile(folder / "conversion.log");
   const std::string message = "Not able calc verline slope on diffaltitudes (chain 30.000)";
   EXPECT_NE(log.find(message), std::string::npos) << log;
   EXPECT_EQ(log.find("Not able", log.find(message) + 1), std::string::npos) << log;

@@ -2,12 +2,20 @@
 // folder that the copy lies in. Each stand-in converter exits with one code.
 #include <gtest/gtest.h>
 
+#ifdef _WIN32
+#define NOMINMAX
+#define WIN32_LEAN_AND_MEAN
+#include <windows.h>
+#else
 #include <dlfcn.h>
+#endif
 
 #include <filesystem>
 #include <memory>
 #include <string>
+#include <type_traits>
 
+#include "base/platform.h"
 #include "kvrvips/kvrvips.h"
 #include "tests/vips_import/conversion_fixtures.h"
 
@@ -15,9 +23,34 @@ namespace {
 
 namespace fs = std::filesystem;
 
+#ifdef _WIN32
+struct LibraryCloser {
+  void operator()(HMODULE module) const { FreeLibrary(module); }
+};
+using Library = std::unique_ptr<std::remove_pointer_t<HMODULE>, LibraryCloser>;
+Library OpenLibrary(const std::string& path) { return Library(LoadLibraryA(path.c_str())); }
+void* pLibraryFunction(const Library& library, const char* name) {
+  return reinterpret_cast<void*>(GetProcAddress(library.get(), name));
+}
+std::string sLibraryError() { return "error " + std::to_string(GetLastError()); }
+#else
 struct LibraryCloser {
   void operator()(void* handle) const { dlclose(handle); }
 };
+using Library = std::unique_ptr<void, LibraryCloser>;
+Library OpenLibrary(const std::string& path) {
+  return Library(dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL));
+}
+void* pLibraryFunction(const Library& library, const char* name) {
+  return dlsym(library.get(), name);
+}
+std::string sLibraryError() { return dlerror(); }
+#endif
+
+// The converter's path as the library names it in the log, "@" standing for
+// its folder.
+const std::string kConverter =
+    std::string("@") + cPlatformPathSeparator() + "kvrvips_convert_gen" + kPlatformProgramSuffix;
 
 struct ConverterRun {
   int result = -1;
@@ -34,34 +67,36 @@ struct ConverterRun {
 ConverterRun RunWithConverter(int exitCode, const std::string& design,
                               const std::string& oldModel) {
   ScratchFolder scratch;
-  std::string folder = fs::canonical(scratch.path()).string();
-  fs::copy_file(KVRVIPS_LIBRARY, folder + "/libkvrvips.so");
+  std::string folder = fs::canonical(scratch.path()).make_preferred().string();
+  const std::string library = folder + "/" + fs::path(KVRVIPS_LIBRARY).filename().string();
+  fs::copy_file(KVRVIPS_LIBRARY, library);
   fs::copy_file(KVRVIPS_DESIGN_MODEL_LIBRARY,
                 folder + "/" + fs::path(KVRVIPS_DESIGN_MODEL_LIBRARY).filename().string());
   if (exitCode >= 0) {
     fs::copy_file(
-        std::string(KVRVIPS_CONVERTERS_DIR) + "/kvrvips_converter_exit_" + std::to_string(exitCode),
-        folder + "/kvrvips_convert_gen");
-    fs::permissions(folder + "/kvrvips_convert_gen", fs::perms::owner_all);
+        std::string(KVRVIPS_CONVERTERS_DIR) + "/kvrvips_converter_exit_" +
+            std::to_string(exitCode) + kPlatformProgramSuffix,
+        folder + "/kvrvips_convert_gen" + kPlatformProgramSuffix);
+    fs::permissions(folder + "/kvrvips_convert_gen" + kPlatformProgramSuffix,
+                    fs::perms::owner_all);
   }
   fs::create_directories(fs::path(folder + "/" + design).parent_path());
   vWriteWholeFile(folder + "/" + design, sDesignDocument(sInputOf("10.0", 1)));
   if (!oldModel.empty()) vWriteWholeFile(folder + "/veg.sfi", oldModel);
 
   ConverterRun run;
-  std::unique_ptr<void, LibraryCloser> library(
-      dlopen((folder + "/libkvrvips.so").c_str(), RTLD_NOW | RTLD_LOCAL));
-  auto convert = library ? reinterpret_cast<decltype(&iKvrVipsConvertDatabase)>(
-                               dlsym(library.get(), "iKvrVipsConvertDatabase"))
-                         : nullptr;
+  Library loaded = OpenLibrary(library);
+  auto convert = loaded ? reinterpret_cast<decltype(&iKvrVipsConvertDatabase)>(
+                              pLibraryFunction(loaded, "iKvrVipsConvertDatabase"))
+                        : nullptr;
   if (!convert) {
-    ADD_FAILURE() << dlerror();
+    ADD_FAILURE() << sLibraryError();
     return run;
   }
   char* logFile = nullptr;
   run.result = convert((folder + "/" + design).c_str(), (folder + "/veg.sfi").c_str(),
                        KVRVIPS_IMPORT_FULL, &logFile, sShippedSettings().c_str(), 0, 1);
-  run.log = logFile ? sReadWholeFile(logFile) : "<no log path>";
+  run.log = logFile ? sReadTextFile(logFile) : "<no log path>";
   run.arguments = sReadWholeFile(folder + "/kvrvips_convert_gen.arguments");
   run.modelFile = sReadWholeFile(folder + "/veg.sfi");
   for (std::string* text : {&run.log, &run.arguments}) {
@@ -97,7 +132,7 @@ TEST(ExternalConverter, EveryOtherExitCodeFailsTheImportAndLeavesTheModelFile) {
     int exitCode;  // -1: no converter beside the library
     std::string log;
   } cases[] = {
-      {1, "Feil kode 1: Feil ved kj\xF8ring av @/kvrvips_convert_gen\n"},
+      {1, "Feil kode 1: Feil ved kj\xF8ring av " + kConverter + "\n"},
       {1000, "Feil kode 0: GEN / VEG / TER / MAS / VPR / HOR / VRT ikke funnet\n"},
       {999, "Feil kode -1: Feil ved konvertering av VIPS gen database\n"},
       {0, "\n"},

@@ -32,7 +32,7 @@ Conversion Convert(const std::string& design, const std::string& modelFile, uint
                                               &logFile, settings.c_str(), describeOpenError, 0);
   conversion.logPath = logFile ? logFile : "<null>";
   if (std::filesystem::is_regular_file(conversion.logPath)) {
-    conversion.log = sReadWholeFile(conversion.logPath);
+    conversion.log = sReadTextFile(conversion.logPath);
   }
   return conversion;
 }

@@ -197,7 +197,7 @@ Converted Convert(const ScratchFolder& folder, DesignModelRecord& design, uint32
   Converted converted;
   converted.result = iKvrVipsConvertDatabase(document.c_str(), modelFile.c_str(), flags, &logFile,
                                              settings.c_str(), 0, 0);
-  converted.log = sReadWholeFile(folder / "veg.log");
+  converted.log = sReadTextFile(folder / "veg.log");
   converted.file = sReadWholeFile(modelFile);
   return converted;
 }

@@ -157,7 +157,7 @@ TEST(PavementConversion, TemplatesStretchesAndDetailedPavementLandInTheirSection
                               KVRVIPS_IMPORT_TABLES, &logFile, sShippedSettings().c_str(), 0, 0),
       0);
 
-  EXPECT_EQ(sReadWholeFile(folder / "veg.log"),
+  EXPECT_EQ(sReadTextFile(folder / "veg.log"),
             sLogHead("Np21", "Road", "10.0") +
                 sTablesLog("", "", "Leser tabell: Avansert overbygning\n") + "\n" +
                 "\n*****Advarsel*****\nData for rehabilitering av vei er brukt i vips\n"

@@ -139,7 +139,7 @@ TEST(TablesConversion, EveryChainageTableOfTheDesignLandsInItsSection) {
 
   const std::string warning =
       "***Warning in import of DitchInFilling: SIDE_BOTH not supported***\n";
-  EXPECT_EQ(sReadWholeFile(folder / "veg.log"),
+  EXPECT_EQ(sReadTextFile(folder / "veg.log"),
             sLogHead("Np21", "Road", "10.0") + sTablesLog(warning) + "\n");
 
   // The tables start anew: what the model held of them is gone.

@@ -103,7 +103,7 @@ Converted Convert(const ScratchFolder& folder, DesignModelRecord& design) {
   converted.result = iKvrVipsConvertDatabase(design.documentPath.c_str(), modelFile.c_str(),
                                              KVRVIPS_IMPORT_TABLES, &logFile,
                                              sShippedSettings().c_str(), 0, 0);
-  converted.log = sReadWholeFile(folder / "veg.log");
+  converted.log = sReadTextFile(folder / "veg.log");
   converted.file = sReadWholeFile(modelFile);
   return converted;
 }
