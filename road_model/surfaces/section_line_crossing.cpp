@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "geometry/line_element.h"
-#include "geometry/line_measure.h"
 #include "geometry/point.h"
 #include "road_model/sections/section.h"
 
@@ -34,6 +33,7 @@ struct LinePieces {
   std::vector<double> starts;
   std::vector<LiPiece> pieces;
   std::vector<double> jumps;
+  double total = 0.0;  // the line's length, summed over all its pieces as its measures sum it
 };
 
 void vMakePieces(const RmLine& line, LinePieces* table) {
@@ -41,10 +41,12 @@ void vMakePieces(const RmLine& line, LinePieces* table) {
   table->starts.clear();
   table->pieces.clear();
   table->jumps.clear();
+  table->total = 0.0;
   double start = 0.0;
   for (size_t i = 0; i < line.elements.size(); ++i) {
     const LiPiece piece = LiPieceMake(
         line.elements[i], i + 1 < line.elements.size() ? &line.elements[i + 1] : nullptr);
+    table->total += piece.dLength;
     if (piece.kind == LiPieceKind::kNone || !(piece.dLength > 0.0)) continue;
     if (!table->pieces.empty() && (table->pieces.back().end.x != piece.start.x ||
                                    table->pieces.back().end.y != piece.start.y)) {
@@ -146,8 +148,8 @@ bool boRmSectionLineCrossing(const RmSection* section, const RmLine* line, int s
   if (!section || !line || !offset) return false;
   const double angle = section->Direction + section->Skew;
   const SectionFrame frame{section->ClX, section->ClY, std::cos(angle), std::sin(angle)};
-  const double total = dLiLineLength(line);
   const LinePieces& table = PiecesOf(*line);
+  const double total = table.total;
   double lowAcross;
   double along;
   if (!boMeasure(table, frame, 0.0, &lowAcross, &along)) return false;
