@@ -205,13 +205,14 @@ size_t uPlatformWideToAnsi(const char16_t* wide, char* out, size_t size) {
     text += static_cast<wchar_t>(c);
   }
   // No best fit: a letter outside the code page is '?', not a look-alike.
+  // A UTF-8 code page holds every character and refuses the flag.
   const int length = static_cast<int>(std::min<size_t>(text.size(), INT_MAX));
-  int needed = WideCharToMultiByte(CP_ACP, WC_NO_BEST_FIT_CHARS, text.data(), length, nullptr, 0,
-                                   nullptr, nullptr);
+  DWORD flags = GetACP() == CP_UTF8 ? 0 : WC_NO_BEST_FIT_CHARS;
+  int needed =
+      WideCharToMultiByte(CP_ACP, flags, text.data(), length, nullptr, 0, nullptr, nullptr);
   if (needed <= 0) return 0;
   std::string narrow(static_cast<size_t>(needed), '\0');
-  WideCharToMultiByte(CP_ACP, WC_NO_BEST_FIT_CHARS, text.data(), length, narrow.data(), needed,
-                      nullptr, nullptr);
+  WideCharToMultiByte(CP_ACP, flags, text.data(), length, narrow.data(), needed, nullptr, nullptr);
   size_t written = std::min(narrow.size(), size - 1);
   std::memcpy(out, narrow.data(), written);
   out[written] = 0;
