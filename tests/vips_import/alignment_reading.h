@@ -13,6 +13,7 @@
 #include "model_file/records/frame/model_load.h"
 #include "road_model/model/model.h"
 #include "tests/support/model_file_text.h"
+#include "tests/support/scratch_folder.h"
 
 
 // The model loaded from this file; a failed load fails the test.
@@ -58,6 +59,31 @@ inline void vAddElevationDifference(NpDesignModel::InDataRecord& input, double f
   row.difference = difference;
 }
 
+#ifdef _WIN32
+// A log kept in a file of a scratch folder (Windows has no memory stream),
+// whose text can be read at any time.
+class LogStream {
+ public:
+  LogStream() : file_(std::fopen((folder_ / "log").c_str(), "w+b")) {}
+  ~LogStream() {
+    if (file_) std::fclose(file_);
+  }
+  LogStream(const LogStream&) = delete;
+  LogStream& operator=(const LogStream&) = delete;
+
+  std::FILE* get() const { return file_; }
+
+  // Everything written so far.
+  std::string Text() const {
+    if (file_) std::fflush(file_);
+    return sReadWholeFile(folder_ / "log");
+  }
+
+ private:
+  ScratchFolder folder_;
+  std::FILE* file_;
+};
+#else
 // A log kept in memory, whose text can be read at any time.
 class LogStream {
  public:
@@ -82,3 +108,4 @@ class LogStream {
   size_t size_ = 0;
   std::FILE* file_;
 };
+#endif

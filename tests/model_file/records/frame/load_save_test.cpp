@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 
+#ifndef _WIN32
 #include <signal.h>
 #include <sys/resource.h>
+#endif
 
 #include <filesystem>
 #include <string>
@@ -39,6 +41,7 @@ int iTemporaryFiles(const std::string& folder) {
   return count;
 }
 
+#ifndef _WIN32
 // Limits the size of files that the process may write while it lives, so
 // that a write fails as on a full disk, whoever runs the test.
 class FileSizeLimit {
@@ -61,6 +64,7 @@ class FileSizeLimit {
   void (*previousSignal_)(int);
   bool active_ = false;
 };
+#endif
 
 // What each flush of a save found on the disk: the flushed file's bytes and
 // the target's at that moment.
@@ -230,6 +234,9 @@ TEST(ModelSave, ASaveReplacesTheTargetWithACompleteFile) {
 // takes its temporary file away.
 TEST(ModelSave, ASaveThatFailsLeavesTheOldFileAsItWas) {
   for (bool failedFlush : {false, true}) {
+#ifdef _WIN32
+    if (!failedFlush) continue;  // Windows has no limit of a process's file sizes
+#endif
     ScratchFolder folder;
     std::string path = folder / "veg.sfi";
     ModelPtr model = MarkedModel("Nor");
@@ -243,9 +250,11 @@ TEST(ModelSave, ASaveThatFailsLeavesTheOldFileAsItWas) {
       EXPECT_EQ(flushes.size(), 1u);
       EXPECT_EQ(iTemporaryFiles(folder.path()), 0);
     } else {
+#ifndef _WIN32
       FileSizeLimit limit(200);
       ASSERT_TRUE(limit.active());
       EXPECT_FALSE(boRmModelSave(model.get(), nullptr));
+#endif
     }
     EXPECT_EQ(sReadWholeFile(path), before) << failedFlush;
     EXPECT_EQ(model->Dirty, 1) << failedFlush;
