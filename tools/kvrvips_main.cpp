@@ -40,6 +40,8 @@ int main(int argc, char** argv) {
   CLI::App app("Converts a road or railway design document into a road model file, and shows "
                "and draws road model files.",
                "kvrvips");
+  // Options start with '-' on Windows too: a path may start with '/'.
+  app.allow_windows_style_options(false);
   app.set_version_flag("--version", "kvrvips " KVRVIPS_VERSION);
   app.require_subcommand(1);
   app.footer(

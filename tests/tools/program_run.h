@@ -82,8 +82,9 @@ inline ProgramRun RunProgram(const std::vector<std::string>& command) {
   if (GetExitCodeProcess(process.hProcess, &code)) run.iStatus = static_cast<int>(code);
   CloseHandle(process.hThread);
   CloseHandle(process.hProcess);
-  run.sOut = sReadWholeFile(outFile);
-  run.sErr = sReadWholeFile(errFile);
+  // The programs write their standard output and error in text mode.
+  run.sOut = sReadTextFile(outFile);
+  run.sErr = sReadTextFile(errFile);
   return run;
 }
 #else

@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <string>
 
+#include "base/platform.h"
 #include "kvrvips/kvrvips.h"
 #include "geometry/line.h"
 #include "model_file/records/frame/model_save.h"
@@ -199,15 +200,15 @@ TEST(ConvertDatabase, TheLogGoesToTheCurrentDirectoryWhenItCannotBeMadeBesideThe
   std::filesystem::create_directory(folder / "veg.log");
   Conversion conversion = Convert(folder / "veg.json", folder / "veg.sfi", 0);
   EXPECT_EQ(conversion.result, 0);
-  EXPECT_EQ(conversion.logPath, current + "/veg.log");
+  EXPECT_EQ(conversion.logPath, current + cPlatformPathSeparator() + "veg.log");
   EXPECT_EQ(conversion.log, sLogHead("Np21", "Road", "10.0"));
 
   // Neither place takes the log: the import goes on, writing to nothing.
-  std::filesystem::remove(current + "/veg.log");
-  std::filesystem::create_directory(current + "/veg.log");
+  std::filesystem::remove(current + cPlatformPathSeparator() + "veg.log");
+  std::filesystem::create_directory(current + cPlatformPathSeparator() + "veg.log");
   conversion = Convert(folder / "veg.json", folder / "veg.sfi", KVRVIPS_IMPORT_FULL);
   EXPECT_EQ(conversion.result, 0);
-  EXPECT_EQ(conversion.logPath, current + "/veg.log");
+  EXPECT_EQ(conversion.logPath, current + cPlatformPathSeparator() + "veg.log");
   EXPECT_EQ(Loaded(folder / "veg.sfi")->RoadType, 1);
 
   // The design's folder is a plain file: the design cannot be opened
@@ -215,7 +216,7 @@ TEST(ConvertDatabase, TheLogGoesToTheCurrentDirectoryWhenItCannotBeMadeBesideThe
   vWriteWholeFile(folder / "fil", "");
   conversion = Convert(folder / "fil/bru.json", folder / "bru.sfi", 0);
   EXPECT_EQ(conversion.result, -1);
-  EXPECT_EQ(conversion.logPath, current + "/bru.log");
+  EXPECT_EQ(conversion.logPath, current + cPlatformPathSeparator() + "bru.log");
   EXPECT_EQ(conversion.log, "Feil ved \xE5pning av VIPS database -2\n");
   EXPECT_FALSE(std::filesystem::exists(folder / "bru.sfi"));
 }

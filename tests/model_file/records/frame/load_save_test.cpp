@@ -278,7 +278,8 @@ TEST(ModelSave, TheTemporaryFileIsFlushedWholeBeforeItTakesTheTargetsPlace) {
   ASSERT_EQ(flushes.size(), 2u);
   const auto& file = flushes[0];
   EXPECT_FALSE(file.directory);
-  EXPECT_EQ(file.path.rfind(folder / "$$$_", 0), 0u) << file.path;
+  const std::string prefix = std::filesystem::path(folder / "$$$_").make_preferred().string();
+  EXPECT_EQ(file.path.rfind(prefix, 0), 0u) << file.path;
   EXPECT_EQ(file.bytes, written);
   EXPECT_EQ(file.target, "old content");
   // The folder follows the move.
