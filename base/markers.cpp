@@ -57,14 +57,15 @@ bool boMarkerWrite(const char* markerPath, const char* text) {
   std::string directory(std::strlen(markerPath) + 1, '\0');
   sPathDirectoryTo(markerPath, directory.data(), directory.size());
   if (directory[0]) boPlatformCreateDirectories(directory.c_str());
-  // The system has no hidden attribute here; the '~' behind the name is what
-  // tells a marker from the files that it guards.
   PlatformFile file =
       hPlatformFileOpen(markerPath, PlatformOpenMode::kReadWriteCreate, true, nullptr);
   if (file == kPlatformNoFile) return false;
   size_t length = text ? std::strlen(text) : 0;
   bool written = length > 0 && boPlatformFileWrite(file, text, length);
   boPlatformFileClose(file);
+  // A marker is hidden where the system can hide files; elsewhere the '~'
+  // behind its name is what tells it from the files that it guards.
+  boPlatformHideFile(markerPath);
   return written;
 }
 

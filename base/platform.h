@@ -121,6 +121,10 @@ bool boPlatformFileWriteTime(PlatformFile file, int64_t* outWriteTime);
 bool boPlatformFileExists(const char* path);
 bool boPlatformIsDirectory(const char* path);
 bool boPlatformDeleteFile(const char* path);
+// Gives a file the hidden attribute, so that ordinary listings leave it out.
+// True where the system has no such attribute: there the file's name must
+// tell what it is.
+bool boPlatformHideFile(const char* path);
 // Moves a file, replacing the target; across file systems it copies.
 bool boPlatformMoveFile(const char* from, const char* to);
 // true when the two paths name one file: the same file of the system when

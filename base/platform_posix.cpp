@@ -329,6 +329,8 @@ bool boPlatformIsDirectory(const char* path) {
 
 bool boPlatformDeleteFile(const char* path) { return path && unlink(path) == 0; }
 
+bool boPlatformHideFile(const char* path) { return path != nullptr; }
+
 bool boPlatformFlushFile(const char* path) {
   return path && *path && flushHandler.load()(path, false);
 }

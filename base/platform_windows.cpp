@@ -26,7 +26,11 @@ namespace {
 
 // ---- Message boxes ----
 
+// The library's boxes ask to stay on top with kMbTopmost (0x10000), the
+// number its callers and tests know; the system reads that number as "set
+// foreground" and has its own bit for a box on top.
 int iDefaultMessageHandler(const char* text, const char* title, unsigned int type) {
+  if (type & kMbTopmost) type = (type & ~kMbTopmost) | MB_TOPMOST;
   return MessageBoxA(GetActiveWindow(), text, title, type);
 }
 
@@ -387,6 +391,13 @@ bool boPlatformIsDirectory(const char* path) {
 }
 
 bool boPlatformDeleteFile(const char* path) { return path && DeleteFileA(path) != 0; }
+
+bool boPlatformHideFile(const char* path) {
+  if (!path) return false;
+  DWORD attributes = GetFileAttributesA(path);
+  if (attributes == INVALID_FILE_ATTRIBUTES) return false;
+  return SetFileAttributesA(path, attributes | FILE_ATTRIBUTE_HIDDEN) != 0;
+}
 
 bool boPlatformFlushFile(const char* path) {
   return path && *path && flushHandler.load()(path, false);

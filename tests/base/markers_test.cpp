@@ -10,6 +10,10 @@
 #include "base/platform.h"
 #include "tests/support/scratch_folder.h"
 
+#ifdef _WIN32
+#include <windows.h>
+#endif
+
 namespace {
 
 class MarkersTest : public ::testing::Test {
@@ -72,6 +76,10 @@ TEST_F(MarkersTest, MarkerWriteAndRead) {
   EXPECT_EQ(sReadWholeFile(deep), "ola");
   EXPECT_TRUE(boMarkerWrite(deep.c_str(), "k"));  // rewritten, not appended
   EXPECT_STREQ(sMarkerRead(deep.c_str()), "k");
+#ifdef _WIN32
+  // Hidden, and written over all the same.
+  EXPECT_TRUE(GetFileAttributesA(deep.c_str()) & FILE_ATTRIBUTE_HIDDEN);
+#endif
 
   EXPECT_FALSE(boMarkerWrite(deep.c_str(), ""));
   EXPECT_FALSE(boMarkerWrite((folder_ / "a:b/road.sfi~").c_str(), "ola"));
