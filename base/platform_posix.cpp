@@ -1,5 +1,6 @@
 // The POSIX implementation of the platform layer.
 #include "base/platform.h"
+#include "base/platform_system.h"
 
 #include <dlfcn.h>
 #include <errno.h>
@@ -24,21 +25,17 @@
 
 extern char** environ;
 
-namespace {
+// ---- What the common part of the layer asks of the system ----
 
-// ---- Message boxes ----
-
-int iDefaultMessageHandler(const char* text, const char*, unsigned int type) {
-  std::fprintf(stderr, "%s\n", text ? text : "");
+// There is nobody to show a box to: the text goes to standard error, and
+// the box answers with its default button.
+int iPlatformSystemMessageBox(const char* text, const char*, unsigned int type) {
+  std::fprintf(stderr, "%s\n", text);
   std::fflush(stderr);
   return iPlatformDefaultButton(type);
 }
 
-std::atomic<PlatformMessageHandler> messageHandler{&iDefaultMessageHandler};
-
-// ---- Flushes ----
-
-bool boDefaultFlush(const char* path, bool directory) {
+bool boPlatformSystemFlush(const char* path, bool directory) {
   int flags = O_RDONLY | O_CLOEXEC | (directory ? O_DIRECTORY : 0);
   int descriptor = open(directory && !*path ? "." : path, flags);
   if (descriptor < 0) return false;
@@ -46,7 +43,7 @@ bool boDefaultFlush(const char* path, bool directory) {
   return close(descriptor) == 0 && flushed;
 }
 
-std::atomic<PlatformFlushHandler> flushHandler{&boDefaultFlush};
+namespace {
 
 // ---- Windows-1252 ----
 
@@ -100,39 +97,7 @@ int64_t lFileTimeOf(const struct timespec& t) {
          t.tv_nsec / 100;
 }
 
-bool boCopyOut(const std::string& text, char* out, size_t size) {
-  if (!out || size == 0) return false;
-  if (text.size() >= size) {
-    out[0] = 0;
-    return false;
-  }
-  std::memcpy(out, text.c_str(), text.size() + 1);
-  return true;
-}
-
 }  // namespace
-
-// ---- Message boxes ----
-
-PlatformMessageHandler pfnPlatformSetMessageHandler(PlatformMessageHandler handler) {
-  return messageHandler.exchange(handler ? handler : &iDefaultMessageHandler);
-}
-
-int iPlatformMessageBox(const char* text, const char* title, unsigned int type) {
-  return messageHandler.load()(text ? text : "", title ? title : "", type);
-}
-
-int iPlatformDefaultButton(unsigned int type) {
-  unsigned int buttons = type & 0xF;
-  unsigned int defaultIndex = (type & 0xF00) >> 8;  // 0 first, 1 second, 2 third
-  switch (buttons) {
-    case kMbOkCancel: return defaultIndex == 0 ? kIdOk : kIdCancel;
-    case kMbYesNo: return defaultIndex == 0 ? kIdYes : kIdNo;
-    case kMbYesNoCancel:
-      return defaultIndex == 0 ? kIdYes : (defaultIndex == 1 ? kIdNo : kIdCancel);
-    default: return kIdOk;
-  }
-}
 
 // ---- Text ----
 
@@ -331,18 +296,6 @@ bool boPlatformDeleteFile(const char* path) { return path && unlink(path) == 0; 
 
 bool boPlatformHideFile(const char* path) { return path != nullptr; }
 
-bool boPlatformFlushFile(const char* path) {
-  return path && *path && flushHandler.load()(path, false);
-}
-
-bool boPlatformFlushDirectory(const char* directory) {
-  return flushHandler.load()(directory ? directory : "", true);
-}
-
-PlatformFlushHandler pfnPlatformSetFlushHandler(PlatformFlushHandler handler) {
-  return flushHandler.exchange(handler ? handler : &boDefaultFlush);
-}
-
 bool boPlatformMoveFile(const char* from, const char* to) {
   if (!from || !to) return false;
   if (rename(from, to) == 0) return true;
@@ -423,7 +376,7 @@ bool boPlatformCreateTempFile(const char* directory, const char* prefix, char* o
   if (fd < 0) return false;
   close(fd);
   char full[4096];
-  if (!boPlatformFullPath(name.c_str(), full, sizeof full) || !boCopyOut(full, out, size)) {
+  if (!boPlatformFullPath(name.c_str(), full, sizeof full) || !boPlatformCopyOut(full, out, size)) {
     unlink(name.c_str());
     out[0] = 0;
     return false;
@@ -450,7 +403,7 @@ bool boPlatformTempDirectory(char* out, size_t size) {
   const char* folder = std::getenv("TMPDIR");
   std::string text = folder && *folder ? folder : "/tmp";
   if (text.back() != '/') text += '/';
-  return boCopyOut(text, out, size);
+  return boPlatformCopyOut(text, out, size);
 }
 
 bool boPlatformFullPath(const char* path, char* out, size_t size) {
@@ -486,7 +439,7 @@ bool boPlatformFullPath(const char* path, char* out, size_t size) {
   }
   if (result.empty()) result.push_back('/');
   if (whole.size() > 1 && whole.back() == '/' && result != "/") result += '/';
-  return boCopyOut(result, out, size);
+  return boPlatformCopyOut(result, out, size);
 }
 
 bool boPlatformModulePath(char* out, size_t size) {
@@ -506,11 +459,11 @@ bool boPlatformModulePath(char* out, size_t size) {
     ssize_t length = readlink("/proc/self/exe", full, sizeof full - 1);
     if (length > 0) {
       full[length] = 0;
-      return boCopyOut(full, out, size);
+      return boPlatformCopyOut(full, out, size);
     }
   }
-  if (!realpath(info.dli_fname, full)) return boCopyOut(info.dli_fname, out, size);
-  return boCopyOut(full, out, size);
+  if (!realpath(info.dli_fname, full)) return boPlatformCopyOut(info.dli_fname, out, size);
+  return boPlatformCopyOut(full, out, size);
 }
 
 // The loader tells which module holds the code; no handle is needed.
@@ -532,7 +485,7 @@ bool boPlatformUserName(char* out, size_t size) {
   struct passwd* found = nullptr;
   char buffer[4096];
   if (getpwuid_r(geteuid(), &entry, buffer, sizeof buffer, &found) != 0 || !found) return false;
-  return boCopyOut(found->pw_name, out, size);
+  return boPlatformCopyOut(found->pw_name, out, size);
 }
 
 int iPlatformRunProcess(const char* commandLine) {

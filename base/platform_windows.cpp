@@ -4,6 +4,7 @@
 // the library; the calls here are the A forms, apart from the start of a
 // child process, which goes through the wide form.
 #include "base/platform.h"
+#include "base/platform_system.h"
 
 #include <windows.h>
 
@@ -22,23 +23,17 @@ static_assert(kIdOk == IDOK && kIdCancel == IDCANCEL && kIdYes == IDYES && kIdNo
 static_assert(kMbYesNoCancel == MB_YESNOCANCEL && kMbTaskModal == MB_TASKMODAL);
 static_assert(sizeof(char16_t) == sizeof(wchar_t));
 
-namespace {
-
-// ---- Message boxes ----
+// ---- What the common part of the layer asks of the system ----
 
 // The library's boxes ask to stay on top with kMbTopmost (0x10000), the
 // number its callers and tests know; the system reads that number as "set
 // foreground" and has its own bit for a box on top.
-int iDefaultMessageHandler(const char* text, const char* title, unsigned int type) {
+int iPlatformSystemMessageBox(const char* text, const char* title, unsigned int type) {
   if (type & kMbTopmost) type = (type & ~kMbTopmost) | MB_TOPMOST;
   return MessageBoxA(GetActiveWindow(), text, title, type);
 }
 
-std::atomic<PlatformMessageHandler> messageHandler{&iDefaultMessageHandler};
-
-// ---- Flushes ----
-
-bool boDefaultFlush(const char* path, bool directory) {
+bool boPlatformSystemFlush(const char* path, bool directory) {
   // A folder's names reach the disk with the move that wrote through; the
   // system offers no flush of a folder to a program. What is left to tell
   // is whether the folder is there.
@@ -50,7 +45,7 @@ bool boDefaultFlush(const char* path, bool directory) {
   return CloseHandle(file) != 0 && flushed;
 }
 
-std::atomic<PlatformFlushHandler> flushHandler{&boDefaultFlush};
+namespace {
 
 // ---- The module ----
 
@@ -120,16 +115,6 @@ HANDLE hOf(PlatformFile file) { return reinterpret_cast<HANDLE>(file); }
 // The counts of the system's calls are 32-bit.
 DWORD uChunkOf(size_t size) { return static_cast<DWORD>(std::min<size_t>(size, 1u << 30)); }
 
-bool boCopyOut(const std::string& text, char* out, size_t size) {
-  if (!out || size == 0) return false;
-  if (text.size() >= size) {
-    out[0] = 0;
-    return false;
-  }
-  std::memcpy(out, text.c_str(), text.size() + 1);
-  return true;
-}
-
 // A call of the form "write at most size bytes and return the length, or the
 // room it wants": true when the text fitted; otherwise `out` is emptied.
 bool boFitted(DWORD length, char* out, size_t size) {
@@ -168,28 +153,6 @@ std::wstring sWiden(const std::string& text) {
 }
 
 }  // namespace
-
-// ---- Message boxes ----
-
-PlatformMessageHandler pfnPlatformSetMessageHandler(PlatformMessageHandler handler) {
-  return messageHandler.exchange(handler ? handler : &iDefaultMessageHandler);
-}
-
-int iPlatformMessageBox(const char* text, const char* title, unsigned int type) {
-  return messageHandler.load()(text ? text : "", title ? title : "", type);
-}
-
-int iPlatformDefaultButton(unsigned int type) {
-  unsigned int buttons = type & 0xF;
-  unsigned int defaultIndex = (type & 0xF00) >> 8;  // 0 first, 1 second, 2 third
-  switch (buttons) {
-    case kMbOkCancel: return defaultIndex == 0 ? kIdOk : kIdCancel;
-    case kMbYesNo: return defaultIndex == 0 ? kIdYes : kIdNo;
-    case kMbYesNoCancel:
-      return defaultIndex == 0 ? kIdYes : (defaultIndex == 1 ? kIdNo : kIdCancel);
-    default: return kIdOk;
-  }
-}
 
 // ---- Text ----
 
@@ -399,18 +362,6 @@ bool boPlatformHideFile(const char* path) {
   return SetFileAttributesA(path, attributes | FILE_ATTRIBUTE_HIDDEN) != 0;
 }
 
-bool boPlatformFlushFile(const char* path) {
-  return path && *path && flushHandler.load()(path, false);
-}
-
-bool boPlatformFlushDirectory(const char* directory) {
-  return flushHandler.load()(directory ? directory : "", true);
-}
-
-PlatformFlushHandler pfnPlatformSetFlushHandler(PlatformFlushHandler handler) {
-  return flushHandler.exchange(handler ? handler : &boDefaultFlush);
-}
-
 bool boPlatformMoveFile(const char* from, const char* to) {
   // Writing through returns once the new name is on the disk.
   return from && to &&
@@ -489,7 +440,7 @@ bool boPlatformCreateTempFile(const char* directory, const char* prefix, char* o
   }
   if (!made) return false;
   char full[MAX_PATH * 4];
-  if (!boPlatformFullPath(name.c_str(), full, sizeof full) || !boCopyOut(full, out, size)) {
+  if (!boPlatformFullPath(name.c_str(), full, sizeof full) || !boPlatformCopyOut(full, out, size)) {
     DeleteFileA(name.c_str());
     out[0] = 0;
     return false;
