@@ -86,15 +86,24 @@ char* sCopyNumberText(const char* text, size_t length, char* buffer, size_t size
 
 }  // namespace
 
+const char kDigitPairs[201] =
+    "00010203040506070809101112131415161718192021222324252627282930313233343536373839"
+    "40414243444546474849505152535455565758596061626364656667686970717273747576777879"
+    "8081828384858687888990919293949596979899";
+
 char* pWriteDigits(char* out, uint64_t value) {
-  char reversed[20];
-  int count = 0;
-  do {
-    reversed[count++] = static_cast<char>('0' + value % 10);
-    value /= 10;
-  } while (value != 0);
-  while (count > 0) *out++ = reversed[--count];
-  return out;
+  // The digits are counted first and then put in from the back, two at a
+  // time: a model file prints millions of them.
+  int count = 1;
+  for (uint64_t rest = value; rest >= 10; rest /= 10) ++count;
+  char* place = out + count;
+  while (value >= 10) {
+    place -= 2;
+    std::memcpy(place, kDigitPairs + 2 * (value % 100), 2);
+    value /= 100;
+  }
+  if (place > out) *--place = static_cast<char>('0' + value);
+  return out + count;
 }
 
 long lParseInteger(const char* text, const char** outEnd) {

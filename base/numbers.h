@@ -58,6 +58,9 @@ char* sPrintNumber(char* buffer, size_t size, double value, int decimals, char**
 // returns the end. The caller gives room for 20 digits.
 char* pWriteDigits(char* out, uint64_t value);
 
+// "00" to "99" one after the other: the two digits of n stand at 2 * n.
+extern const char kDigitPairs[201];
+
 // Prints an integer with a sign when it is negative. Returns `buffer`;
 // 24 bytes always suffice.
 char* sPrintInteger(char* buffer, size_t size, long value, char** outEnd);

@@ -4,6 +4,7 @@
 #include <charconv>
 #include <cmath>
 #include <cstdio>
+#include <initializer_list>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -671,33 +672,29 @@ double dSurfaceAt(double distance) {
   return distance < 0.0 ? -number : number;
 }
 
+void vWriteSurfaceSide(JsonStream& json, const SectionShape& shape, const char* key,
+                       std::initializer_list<double> offsets,
+                       std::initializer_list<double> numbers) {
+  json.Key(key);
+  json.Begin('[');
+  const double* number = numbers.begin();
+  for (double offset : offsets) {
+    json.Begin('{');
+    json.Key("point");
+    json.Point(offset, shape.Surface(offset));
+    json.SurfaceNumber("surfaceNumber", *number++);
+    json.End('}');
+  }
+  json.End(']');
+}
+
 void vWriteSurfacePoints(JsonStream& json, const SectionShape& shape) {
   // Left from the centre outward, each point with the surface that ends
   // there; right from the centre, each with the surface that starts there.
-  const double left[] = {-3.25, -4.0, -5.8, -7.0, -9.0, -11.0};
-  const double leftNumbers[] = {-1.01, -1.02, -4.01, -5.01, -5.01, -5.01};
-  json.Key("surfacesLeft");
-  json.Begin('[');
-  for (int i = 0; i < 6; ++i) {
-    json.Begin('{');
-    json.Key("point");
-    json.Point(left[i], shape.Surface(left[i]));
-    json.SurfaceNumber("surfaceNumber", leftNumbers[i]);
-    json.End('}');
-  }
-  json.End(']');
-  const double right[] = {0.0, 3.25, 4.0, 5.8, 7.0, 9.0, 11.0};
-  const double rightNumbers[] = {1.01, 1.02, 4.01, 5.01, 5.01, 5.01, 5.01};
-  json.Key("surfacesRight");
-  json.Begin('[');
-  for (int i = 0; i < 7; ++i) {
-    json.Begin('{');
-    json.Key("point");
-    json.Point(right[i], shape.Surface(right[i]));
-    json.SurfaceNumber("surfaceNumber", rightNumbers[i]);
-    json.End('}');
-  }
-  json.End(']');
+  vWriteSurfaceSide(json, shape, "surfacesLeft", {-3.25, -4.0, -5.8, -7.0, -9.0, -11.0},
+                    {-1.01, -1.02, -4.01, -5.01, -5.01, -5.01});
+  vWriteSurfaceSide(json, shape, "surfacesRight", {0.0, 3.25, 4.0, 5.8, 7.0, 9.0, 11.0},
+                    {1.01, 1.02, 4.01, 5.01, 5.01, 5.01, 5.01});
 }
 
 void vWritePavementLayers(JsonStream& json, const SectionShape& shape) {

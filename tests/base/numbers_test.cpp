@@ -105,6 +105,17 @@ TEST(PrintInteger, WritesSignAndDigits) {
                std::to_string(LONG_MIN).c_str());
 }
 
+TEST(WriteDigits, EveryCountOfDigitsOddAndEven) {
+  // The digits go in two at a time from the back: a lone first digit and
+  // the widest value are where that would slip.
+  for (uint64_t value : {0ull, 7ull, 10ull, 99ull, 100ull, 1009ull, 123456789ull,
+                         10000000000ull, 18446744073709551615ull}) {
+    char buffer[24];
+    char* end = pWriteDigits(buffer, value);
+    EXPECT_EQ(std::string(buffer, end), std::to_string(value));
+  }
+}
+
 TEST(TrimZeros, CutsClosingZerosAndABarePoint) {
   for (auto [text, trimmed] : {std::pair{"1.500", "1.5"}, {"2.000", "2"}, {"100", "100"},
                                {"0.000", "0"}, {".", "."}, {"10.0", "10"}}) {

@@ -21,34 +21,13 @@ constexpr double kFractionScale[10] = {1.0,  1e-1, 1e-2, 1e-3, 1e-4,
 // reads nine in one before it hands over to the C library.
 constexpr int kShortDigits = 9;
 
-// "00" to "99".
-constexpr char kDigitPairs[] =
-    "00010203040506070809101112131415161718192021222324252627282930313233343536373839"
-    "40414243444546474849505152535455565758596061626364656667686970717273747576777879"
-    "8081828384858687888990919293949596979899";
-
-// Writes the decimal digits of `value`, two at a time.
-char* pPutDigits(char* out, uint64_t value) {
-  if (value >= 100000000) return pWriteDigits(out, value);
-  int count = 1;
-  for (uint64_t limit = 10; count < 8 && value >= limit; limit *= 10) ++count;
-  char* place = out + count;
-  while (value >= 10) {
-    place -= 2;
-    std::memcpy(place, kDigitPairs + 2 * (value % 100), 2);
-    value /= 100;
-  }
-  if (place > out) *--place = static_cast<char>('0' + value);
-  return out + count;
-}
-
 char* pPutInteger(char* out, long value) {
   uint64_t magnitude = static_cast<uint64_t>(value);
   if (value < 0) {
     *out++ = '-';
     magnitude = 0 - magnitude;
   }
-  return pPutDigits(out, magnitude);
+  return pWriteDigits(out, magnitude);
 }
 
 // Reads the run of digits at `place` into `value`, which is only of use for
@@ -147,7 +126,7 @@ char* pRmPrintCoordinate(char* out, float value) {
   double scaled = std::nearbyint(widened * 10000.0);
   if (std::signbit(widened)) *out++ = '-';
   auto digits = static_cast<uint64_t>(std::fabs(scaled));
-  out = pPutDigits(out, digits / 10000);
+  out = pWriteDigits(out, digits / 10000);
   auto fraction = static_cast<unsigned>(digits % 10000);
   if (fraction == 0) return out;
   // Four places, closing zeros dropped.
