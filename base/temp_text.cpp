@@ -65,9 +65,11 @@ char* sTempCopy(const char* text) {
 }
 
 char* sFormat(const char* format, ...) {
+  formatBuffer[0] = 0;
+  if (!format) return formatBuffer;
   va_list arguments;
   va_start(arguments, format);
-  std::vsnprintf(formatBuffer, kFormatBufferSize, format ? format : "", arguments);
+  std::vsnprintf(formatBuffer, kFormatBufferSize, format, arguments);
   va_end(arguments);
   formatBuffer[kFormatBufferSize - 1] = 0;
   return formatBuffer;
