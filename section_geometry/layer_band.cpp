@@ -8,104 +8,120 @@
 
 namespace {
 
-// A place along the band: its offset, both heights, and which layer has a
-// vertex there (crossings and ends belong to both).
+// A place along the band: its offset, both heights, and which line has a
+// point there (crossings and ends belong to both).
 struct Station {
   double X, Lower, Upper;
   bool LowerVertex, UpperVertex;
 };
 
-// Walks a single-run layer along rising offsets.
-class RunCursor {
+// Walks a height line along rising offsets.
+class LineCursor {
  public:
-  RunCursor(const RmLayer* layer, double lift) : point_(RmPointsGetFirst(layer)), lift_(lift) {}
-  // The height at `x`, which must not fall behind the last call.
-  double dAt(double x) {
-    while (point_->Next && point_->Next->X <= x) point_ = point_->Next;
-    if (!point_->Next || point_->X >= x) return point_->Z + lift_;
-    const RmPoint* next = point_->Next;
-    return point_->Z + (next->Z - point_->Z) * (x - point_->X) / (next->X - point_->X) + lift_;
+  explicit LineCursor(const SgHeightLine& line) : line_(line) {}
+  // The heights just left and just right of `x` (the same but at a step)
+  // and whether the line has a point there. `x` lies within the line and
+  // does not fall behind the last call.
+  void vAt(double x, double* left, double* right, bool* vertex) {
+    while (k_ + 1 < line_.size() && line_[k_].X < x) ++k_;
+    const SgLinePoint& point = line_[k_];
+    *vertex = point.X == x;
+    if (*vertex || k_ == 0) {
+      size_t last = k_;
+      while (last + 1 < line_.size() && line_[last + 1].X == x) ++last;
+      *left = point.Z;
+      *right = line_[last].Z;
+      return;
+    }
+    const SgLinePoint& prior = line_[k_ - 1];
+    *left = prior.Z + (point.Z - prior.Z) * (x - prior.X) / (point.X - prior.X);
+    *right = *left;
   }
 
  private:
-  const RmPoint* point_;
-  double lift_;
+  const SgHeightLine& line_;
+  size_t k_ = 0;
 };
 
-constexpr int kLowerVertex = 1;
-constexpr int kUpperVertex = 2;
-
-struct Offset {
-  double X;
-  int Owners;
-};
-
-void vAddOffsets(const RmLayer* layer, double from, double to, int owner,
-                 std::vector<Offset>* offsets) {
-  for (const RmPoint* point = RmPointsGetFirst(layer); point; point = point->Next) {
-    if (point->X > from && point->X < to) offsets->push_back({point->X, owner});
-  }
-}
-
-// The offsets of both layers and the ends, rising, each once with the
-// layers that have a vertex there.
-std::vector<Offset> MergedOffsets(const RmLayer* upper, const RmLayer* lower, double from,
-                                  double to) {
-  std::vector<Offset> offsets{{from, kLowerVertex | kUpperVertex},
-                              {to, kLowerVertex | kUpperVertex}};
-  vAddOffsets(upper, from, to, kUpperVertex, &offsets);
-  vAddOffsets(lower, from, to, kLowerVertex, &offsets);
-  std::sort(offsets.begin(), offsets.end(),
-            [](const Offset& a, const Offset& b) { return a.X < b.X; });
-  std::vector<Offset> merged;
-  merged.reserve(offsets.size());
-  for (const Offset& offset : offsets) {
-    if (!merged.empty() && merged.back().X == offset.X) {
-      merged.back().Owners |= offset.Owners;
-    } else {
-      merged.push_back(offset);
+// The offsets of both lines within the ends, and the ends, rising, each once.
+std::vector<double> Offsets(const SgHeightLine& upper, const SgHeightLine& lower, double from,
+                            double to) {
+  std::vector<double> offsets;
+  offsets.reserve(upper.size() + lower.size() + 2);
+  offsets.push_back(from);
+  offsets.push_back(to);
+  for (const SgHeightLine* line : {&upper, &lower}) {
+    for (const SgLinePoint& point : *line) {
+      if (point.X > from && point.X < to) offsets.push_back(point.X);
     }
   }
-  return merged;
+  std::sort(offsets.begin(), offsets.end());
+  offsets.erase(std::unique(offsets.begin(), offsets.end()), offsets.end());
+  return offsets;
 }
 
-std::vector<Station> Stations(const RmLayer* upper, const RmLayer* lower, double from,
-                              double to, double lift) {
-  const std::vector<Offset> offsets = MergedOffsets(upper, lower, from, to);
-  RunCursor upperAt(upper, lift);
-  RunCursor lowerAt(lower, 0.0);
-  std::vector<Station> stations;
-  stations.reserve(offsets.size() * 2);
-  for (const Offset& offset : offsets) {
-    const double x = offset.X;
-    Station station{x, lowerAt.dAt(x), upperAt.dAt(x), (offset.Owners & kLowerVertex) != 0,
-                    (offset.Owners & kUpperVertex) != 0};
-    if (!stations.empty()) {
-      // Where the layers cross between two stations, a station of both.
-      const Station& last = stations.back();
-      const double d0 = last.Upper - last.Lower;
-      const double d1 = station.Upper - station.Lower;
-      if ((d0 > 0.0 && d1 < 0.0) || (d0 < 0.0 && d1 > 0.0)) {
-        const double t = d0 / (d0 - d1);
-        const double cx = last.X + t * (station.X - last.X);
-        const double cz = last.Lower + t * (station.Lower - last.Lower);
-        stations.push_back({cx, cz, cz, true, true});
-      }
+// Appends a station, with one of both before it where the lines cross
+// since the last one.
+void vAddStation(std::vector<Station>* stations, const Station& station) {
+  if (!stations->empty()) {
+    const Station& last = stations->back();
+    const double d0 = last.Upper - last.Lower;
+    const double d1 = station.Upper - station.Lower;
+    if ((d0 > 0.0 && d1 < 0.0) || (d0 < 0.0 && d1 > 0.0)) {
+      const double t = d0 / (d0 - d1);
+      const double cx = last.X + t * (station.X - last.X);
+      const double cz = last.Lower + t * (station.Lower - last.Lower);
+      stations->push_back({cx, cz, cz, true, true});
     }
-    stations.push_back(station);
   }
-  return stations;
+  stations->push_back(station);
+}
+
+// The stations from `from` to `to`; a step of one line makes two stations at
+// its offset. False when both lines step at one offset.
+bool boStations(const SgHeightLine& upper, const SgHeightLine& lower, double from, double to,
+                std::vector<Station>* stations) {
+  const std::vector<double> offsets = Offsets(upper, lower, from, to);
+  LineCursor upperAt(upper);
+  LineCursor lowerAt(lower);
+  stations->reserve(offsets.size() * 2);
+  for (const double x : offsets) {
+    double lower0, lower1, upper0, upper1;
+    bool lowerVertex, upperVertex;
+    lowerAt.vAt(x, &lower0, &lower1, &lowerVertex);
+    upperAt.vAt(x, &upper0, &upper1, &upperVertex);
+    const bool end = x == from || x == to;
+    // At the ends only the side within the band counts.
+    if (x == from) {
+      lower0 = lower1;
+      upper0 = upper1;
+    } else if (x == to) {
+      lower1 = lower0;
+      upper1 = upper0;
+    }
+    const bool lowerStep = lower0 != lower1;
+    const bool upperStep = upper0 != upper1;
+    if (lowerStep && upperStep) return false;
+    vAddStation(stations, {x, lower0, upper0, lowerVertex || end, upperVertex || end});
+    if (lowerStep || upperStep) vAddStation(stations, {x, lower1, upper1, lowerStep, upperStep});
+  }
+  return true;
 }
 
 void vAddRing(YgPolygon* polygon, const std::vector<Station>& stations, size_t a, size_t b) {
   bool first = true;
+  double lastX = 0.0;
+  double lastZ = 0.0;
   const auto add = [&](double x, double z) {
+    if (!first && x == lastX && z == lastZ) return;
     if (first && iYgElmGetCount(polygon) > 0) {
       LiLineAddPInvisible(polygon, x, z);
     } else {
       LiLineAddP2d(polygon, x, z);
     }
     first = false;
+    lastX = x;
+    lastZ = z;
   };
   for (size_t k = a; k <= b; ++k) {
     if (k == a || k == b || stations[k].LowerVertex) add(stations[k].X, stations[k].Lower);
@@ -113,7 +129,8 @@ void vAddRing(YgPolygon* polygon, const std::vector<Station>& stations, size_t a
   for (size_t k = b + 1; k-- > a;) {
     const Station& s = stations[k];
     const bool end = k == a || k == b;
-    if (s.Upper > s.Lower && (end || s.UpperVertex)) add(s.X, s.Upper);
+    // Within a ring the lines meet only where the upper one touches down.
+    if (end ? s.Upper > s.Lower : s.UpperVertex) add(s.X, s.Upper);
   }
 }
 
@@ -129,27 +146,36 @@ bool boLayerIsSingleRun(const RmLayer* layer) {
   return true;
 }
 
-YgPolygon* LayerBandPolygon(const RmLayer* upper, const RmLayer* lower, const ViExtent& box,
-                            double lift) {
-  const double from = std::max({static_cast<double>(RmPointsGetFirst(upper)->X),
-                                static_cast<double>(RmPointsGetFirst(lower)->X), box.dMinX});
-  const double to = std::min({static_cast<double>(RmPointsGetLast(upper)->X),
-                              static_cast<double>(RmPointsGetLast(lower)->X), box.dMaxX});
-  if (!(from < to)) return nullptr;
-  const std::vector<Station> stations = Stations(upper, lower, from, to, lift);
+bool boLayerBandPolygon(const SgHeightLine& upper, const SgHeightLine& lower, const ViExtent& box,
+                        YgPolygon** band) {
+  if (upper.empty() || lower.empty()) return false;
+  const double from = std::max({upper.front().X, lower.front().X, box.dMinX});
+  const double to = std::min({upper.back().X, lower.back().X, box.dMaxX});
+  if (!(from < to)) {
+    *band = nullptr;
+    return true;
+  }
+  std::vector<Station> stations;
+  if (!boStations(upper, lower, from, to, &stations)) return false;
   YgPolygon* polygon = YgPolygonCreate();
-  // A ring runs over the stations between two where the layers meet (or the
-  // ends), with the upper layer above the lower one in between.
+  // A ring runs over the stations between two where the lines meet (or the
+  // ends), with the upper line above the lower one in between. Where the
+  // upper line touches the lower one in a point and rises again, the ring
+  // goes on through that point, pinched, as the clipping leaves it.
+  const auto gap = [&](size_t k) { return stations[k].Upper - stations[k].Lower; };
   size_t start = 0;
   for (size_t k = 1; k < stations.size(); ++k) {
-    const double d = stations[k].Upper - stations[k].Lower;
-    const double before = stations[k - 1].Upper - stations[k - 1].Lower;
+    const double d = gap(k);
+    const double before = gap(k - 1);
+    const bool last = k + 1 == stations.size();
+    const bool touch = d == 0.0 && before > 0.0 && !last && gap(k + 1) > 0.0;
     if (before < 0.0 || (before == 0.0 && d <= 0.0)) start = k;
-    if (k > start && (d <= 0.0 || k + 1 == stations.size())) {
+    if (k > start && ((d <= 0.0 && !touch) || last)) {
       if (d >= 0.0) vAddRing(polygon, stations, start, k);
       start = k;
     }
   }
   if (iYgElmGetCount(polygon) < 3) vYgPolygonDelete(&polygon);
-  return polygon;
+  *band = polygon;
+  return true;
 }

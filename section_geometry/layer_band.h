@@ -1,12 +1,13 @@
-// The room between two layers that each run once across the section: the
-// direct way to the area of a mass between one upper and one lower layer,
-// which is what most masses are. It gives the same outline as cutting the
-// room above the lower layer by the room above the upper one, without the
-// polygon clipping.
+// The room between two height lines (layer_envelope.h): the direct way to
+// the area of a mass between upper and lower layers that each run once
+// across the section, which is what most masses are. It gives the same
+// outline as cutting the room above the lower layers by the room above the
+// upper ones, without the polygon clipping.
 #pragma once
 
 #include "geometry/point.h"
 #include "geometry/polygon.h"
+#include "section_geometry/layer_envelope.h"
 
 struct RmLayer;
 
@@ -14,10 +15,11 @@ struct RmLayer;
 // offsets strictly rising.
 bool boLayerIsSingleRun(const RmLayer* layer);
 
-// The rings where the upper layer, raised by `lift`, lies above the lower
-// one, within the x range that both layers and the box share. Each ring
-// runs counter-clockwise: along the lower layer from left to right, back
-// along the upper one; rings that touch in a point are two rings. Null when
-// there is no such room. Both layers must be single runs.
-YgPolygon* LayerBandPolygon(const RmLayer* upper, const RmLayer* lower, const ViExtent& box,
-                            double lift);
+// Into `band`, the rings where the upper line lies above the lower one,
+// within the x range that both lines and the box share; null when there is
+// no such room. Each ring runs counter-clockwise: along the lower line from
+// left to right, back along the upper one; where the upper line touches the
+// lower one in a point, the ring passes through it pinched. False, with `band` untouched, when both
+// lines step at the same offset: the clipping must do then.
+bool boLayerBandPolygon(const SgHeightLine& upper, const SgHeightLine& lower, const ViExtent& box,
+                        YgPolygon** band);

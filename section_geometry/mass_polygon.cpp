@@ -109,19 +109,17 @@ YgPolygon* ClippedRoom(const RmSection* section, const RmMassType* massType,
   return result;
 }
 
-// The single layer of a list, when it is one run; null otherwise.
-const RmLayer* SingleRunOf(const RmSection* section, const RmLayerList* list) {
-  const RmLayerListEntry* entry = RmLayerListGetFirst(list);
-  if (!entry || entry->Next) return nullptr;
-  const RmLayer* layer = RmLayerFind(section, entry->Id);
-  return boLayerIsSingleRun(layer) ? layer : nullptr;
-}
-
-// Most masses lie between one upper and one lower layer that each run once
-// across the section: their room is taken directly (layer_band.h), and
-// clipping is left to the others.
-bool boIsBand(const RmSection* section, const RmMassType* massType) {
-  return SingleRunOf(section, &massType->FromLayers) && SingleRunOf(section, &massType->ToLayers);
+// Most masses lie between upper and lower layers that each run once across
+// the section: their room is taken directly, from the bottoms of the rooms
+// above both groups (layer_envelope.h, layer_band.h). False where that does
+// not apply, and the clipping must do.
+bool boDirectRoom(const RmSection* section, const RmMassType* massType, const ViExtent& box,
+                  double lift, YgPolygon** room) {
+  SgHeightLine upper;
+  SgHeightLine lower;
+  return boLayerListBottom(section, &massType->FromLayers, lift, &upper) &&
+         boLayerListBottom(section, &massType->ToLayers, 0.0, &lower) &&
+         boLayerBandPolygon(upper, lower, box, room);
 }
 
 YgPolygon* AreaLayersPolygon(const RmSection* section, const RmMassType* massType,
@@ -143,11 +141,10 @@ YgPolygon* MassPolygon(const RmModel* model, const RmSection* section,
   if (massType->CalcType == kCalcTypeAreaLayers) return AreaLayersPolygon(section, massType, box);
 
   const double lift = massType->MinThickness > 0.0 ? kSgThicknessLift : 0.0;
-  YgPolygon* result =
-      boIsBand(section, massType)
-          ? LayerBandPolygon(SingleRunOf(section, &massType->FromLayers),
-                             SingleRunOf(section, &massType->ToLayers), box, lift)
-          : ClippedRoom(section, massType, box, lift);
+  YgPolygon* result = nullptr;
+  if (!boDirectRoom(section, massType, box, lift, &result)) {
+    result = ClippedRoom(section, massType, box, lift);
+  }
   if (!result) return nullptr;
 
   if (iRmMassTypesGetKind(massTypes) == kRmMassTypesLong) {

@@ -7,6 +7,9 @@
 #include <string>
 
 #include "geometry/polygon.h"
+#include "section_geometry/layer_band.h"
+#include "section_geometry/layer_polygons.h"
+#include "section_geometry/line_normalise.h"
 #include "section_geometry/mass_compute.h"
 #include "section_geometry/mass_polygon.h"
 #include "tests/section_geometry/section_builder.h"
@@ -296,6 +299,86 @@ TEST(MassRecalculate, LockedSectionsAndMissingTypesAreLeftAlone) {
   vSectionMassesRecalculate(model.get(), section.get(), types.get());
   EXPECT_DOUBLE_EQ(RmMassFind(section.get(), 1)->Area, 24.0);
   EXPECT_DOUBLE_EQ(RmMassFind(section.get(), 9)->Area, 3.0);
+}
+
+// The room between groups of layers taken directly (the bottoms of the
+// rooms above them, then the band between) against the clipping of those
+// rooms, or the direct way stepping aside where it does not apply.
+TEST(MassRoom, DirectWayGivesTheOutlineOfTheClipping) {
+  struct Case {
+    const char* what;
+    std::vector<Points> upper, lower;  // layers 12, 22, ... and 11, 21, ...
+    int upperJoin;
+    bool direct;
+    int lowerJoin = 0;
+  };
+  const Points valley{{-10, 2}, {0, -2}, {10, 2}};
+  const Points ridge{{-10, -1}, {0, 2}, {10, -1}};
+  const Points flat{{-10, 0}, {10, 0}};
+  const Case cases[] = {
+      {"groups crossing each other, lowest", {valley, ridge}, {flat, {{-9, -1}, {9, 1}}}, 1, true},
+      {"groups crossing each other, highest", {valley, ridge}, {flat}, 0, true},
+      {"an upper layer narrower, stepping down", {{{-10, 3}, {10, 3}}, {{-5, 1}, {5, 1}}},
+       {flat}, 1, true},
+      {"an upper layer beginning inside, below the lower",
+       {{{-10, 3}, {10, 3}}, {{-5, -1}, {12, -1}}}, {flat}, 1, true},
+      {"layers touching in a point", {{{-10, 1}, {0, 0}, {10, 1}}, {{-10, 2}, {0, 0}, {10, 2}}},
+       {flat}, 1, true},
+      {"upper layers meeting end to end", {{{-10, 1}, {0, 1}}, {{0, 2}, {10, 2}}}, {flat}, 1, true},
+      {"upper layers with a hole between", {{{-10, 1}, {-1, 1}}, {{1, 2}, {10, 2}}}, {flat}, 1,
+       false},
+      {"a gap -99999 in one layer", {{{-10, 1}, {0, -99999}, {10, 1}}, ridge}, {flat}, 1, false},
+      {"both groups stepping at one offset", {{{-10, 3}, {10, 3}}, {{-5, 1}, {5, 1}}},
+       {flat, {{-5, -1}, {5, -1}}}, 1, false, 1},
+  };
+  for (const Case& c : cases) {
+    SectionPtr section(RmSectionCreateFree());
+    TypesPtr types(RmMassTypesCreate(kRmMassTypesCross));
+    RmMassType* type = RmMassTypeAdd(types.get(), 1);
+    type->FromLayers.Join = c.upperJoin;
+    type->ToLayers.Join = c.lowerJoin;
+    ViExtent box;
+    vViExtentClear(&box);
+    for (const bool upper : {true, false}) {
+      const std::vector<Points>& layers = upper ? c.upper : c.lower;
+      for (size_t k = 0; k < layers.size(); ++k) {
+        const int id = (upper ? 12 : 11) + 10 * static_cast<int>(k);
+        AddLayer(section.get(), id, layers[k]);
+        RmLayerListAdd(upper ? &type->FromLayers : &type->ToLayers, RmLayerIdFromFile(id));
+        for (const auto& [x, z] : layers[k]) vViExtentAddPoint(&box, x, z);
+      }
+    }
+    box.dMinY -= 500.0;
+    box.dMaxY += 500.0;
+    SgHeightLine upper, lower;
+    YgPolygon* direct = nullptr;
+    const bool applies = boLayerListBottom(section.get(), &type->FromLayers, 0.0, &upper) &&
+                         boLayerListBottom(section.get(), &type->ToLayers, 0.0, &lower) &&
+                         boLayerBandPolygon(upper, lower, box, &direct);
+    ASSERT_EQ(applies, c.direct) << c.what;
+    if (!applies) continue;
+    YgPolygon* upperRoom =
+        LayerListPolygon(section.get(), &type->FromLayers, c.upperJoin, kSgCloseToTop, box, 0.0);
+    YgPolygon* lowerRoom =
+        LayerListPolygon(section.get(), &type->ToLayers, c.lowerJoin, kSgCloseToTop, box, 0.0);
+    vAddGapRectangles(upperRoom, box);
+    YgPolygon* clipped =
+        pYgPolygonPolygonClipAndSortPartsForIslands(lowerRoom, upperRoom, kYgClipDifference, 1);
+    ASSERT_NE(direct, nullptr) << c.what;
+    ASSERT_NE(clipped, nullptr) << c.what;
+    vPolygonNormalise(direct);
+    vPolygonNormalise(clipped);
+    ASSERT_EQ(iYgElmGetCount(direct), iYgElmGetCount(clipped)) << c.what;
+    for (LiElm elm = 0; elm < iYgElmGetCount(direct); ++elm) {
+      ViPoint2d a, b;
+      vYgElmGetP2d(direct, elm, &a);
+      vYgElmGetP2d(clipped, elm, &b);
+      EXPECT_NEAR(a.x, b.x, 1e-5) << c.what << " " << elm;
+      EXPECT_NEAR(a.y, b.y, 1e-5) << c.what << " " << elm;
+      EXPECT_EQ(YgElmGetType(direct, elm), YgElmGetType(clipped, elm)) << c.what << " " << elm;
+    }
+    for (YgPolygon* polygon : {direct, clipped, upperRoom, lowerRoom}) vYgPolygonDelete(&polygon);
+  }
 }
 
 }  // namespace
