@@ -16,6 +16,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -25,6 +26,7 @@
 using LiElm = int32_t;
 inline constexpr LiElm kLiNoElm = -1;
 
+struct LiLinePieces;
 struct LiLines;
 
 // A line. Its members are the library's; use the functions below.
@@ -42,6 +44,8 @@ struct LiLine {
   size_t uDeadTextBytes = 0;  // bytes of replaced texts still in `texts`
   std::vector<std::max_align_t> userData;
   std::vector<std::string> fieldValues;
+  // The drawn pieces as last made by LiLineGetPieces (line_pieces.h).
+  mutable std::shared_ptr<const LiLinePieces> pieces;
 };
 
 // ---- Lifetime --------------------------------------------------------------

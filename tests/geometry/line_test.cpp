@@ -6,9 +6,11 @@
 
 #include <cmath>
 #include <cstring>
+#include <memory>
 #include <string>
 
 #include "geometry/line_measure.h"
+#include "geometry/line_pieces.h"
 #include "geometry/lines.h"
 #include "tests/geometry/geometry_test_util.h"
 
@@ -66,6 +68,34 @@ TEST(LineWalk, PositionAndDirectionInsideEveryKindOfPiece) {
   // In space: the straight climbs 1 and the arc, added in 2D, falls back to 0.
   EXPECT_NEAR(dLiLinePartLength(line, 0, 3), std::hypot(10.0, 1.0) + std::hypot(quarter, 1.0),
               1e-9);
+}
+
+// The pieces kept with a line find the points that the walk along the line
+// finds, and are made again after a change, while a holder keeps the old.
+TEST(LineWalk, KeptPiecesFollowTheLine) {
+  OwnedLine line(MixedLine());
+  const std::shared_ptr<const LiLinePieces> pieces = LiLineGetPieces(*line);
+  EXPECT_EQ(LiLineGetPieces(*line), pieces);
+  ASSERT_EQ(pieces->jumps.size(), 1u);
+  EXPECT_NEAR(pieces->jumps[0], 10.0 + 10.0 * kPi / 2.0, 1e-9);
+  const double total = dLiLineLength(line);
+  for (double length : {-0.0009, 0.0, 4.0, 15.0, 24.0, 26.0, total - 1.0, total + 0.0009}) {
+    ViPoint3d expected;
+    ViPoint2d point;
+    ASSERT_TRUE(boLiLineGetPointAtLength(line, length, &expected, nullptr));
+    ASSERT_TRUE(boLiLinePiecesPointAt(*pieces, length, &point)) << length;
+    EXPECT_EQ(point.x, expected.x) << length;
+    EXPECT_EQ(point.y, expected.y) << length;
+  }
+  ViPoint2d point;
+  EXPECT_FALSE(boLiLinePiecesPointAt(*pieces, -0.002, &point));
+  EXPECT_FALSE(boLiLinePiecesPointAt(*pieces, total + 0.002, &point));
+
+  line->elements.back().x = 40.0;
+  const std::shared_ptr<const LiLinePieces> changed = LiLineGetPieces(*line);
+  EXPECT_NE(changed, pieces);
+  EXPECT_EQ(changed->total, dLiLineLength(line));
+  EXPECT_EQ(pieces->total, total);
 }
 
 TEST(LineWalk, NearestPieceAndSide) {
