@@ -73,14 +73,26 @@ double dReadDecimal(const char* text, const char** outEnd) {
   return negative ? -value : value;
 }
 
-// The printer's common end: a text made in a local buffer goes into a
-// buffer that is too small for it, cut as sCopy cuts.
-char* sCopyNumberText(const char* text, size_t length, char* buffer, size_t size,
-                      char** outEnd) {
-  if (length > size - 1) length = size - 1;
-  std::memcpy(buffer, text, length);
-  buffer[length] = 0;
-  if (outEnd) *outEnd = buffer + length;
+// The printers' common frame: `write` puts a number's text, shorter than
+// kNumberTextSize, at the place it is given and returns its end; the text
+// gets its end zero here. A buffer too short for every number gets the text
+// made in a local buffer, cut as sCopy cuts; a null or empty one gets
+// nothing.
+template <typename Write>
+char* sPrintFitted(char* buffer, size_t size, char** outEnd, Write write) {
+  char* end = buffer;
+  if (buffer && size >= kNumberTextSize) {
+    end = write(buffer);
+    *end = 0;
+  } else if (buffer && size > 0) {
+    char text[kNumberTextSize];
+    size_t length = static_cast<size_t>(write(text) - text);
+    if (length > size - 1) length = size - 1;
+    std::memcpy(buffer, text, length);
+    end = buffer + length;
+    *end = 0;
+  }
+  if (outEnd) *outEnd = end;
   return buffer;
 }
 
@@ -185,20 +197,11 @@ bool boIsNumberText(const char* text) {
   return hasDigit;
 }
 
-char* sPrintNumber(char* buffer, size_t size, double value, int decimals, char** outEnd) {
-  if (!buffer || size == 0) {
-    if (outEnd) *outEnd = buffer;
-    return buffer;
-  }
-  if (size < kNumberTextSize) {
-    char text[kNumberTextSize];
-    char* end = nullptr;
-    sPrintNumber(text, sizeof text, value, decimals, &end);
-    return sCopyNumberText(text, static_cast<size_t>(end - text), buffer, size, outEnd);
-  }
+namespace {
 
+// The text of sPrintNumber at `out`, without its end zero; its end.
+char* pWriteNumber(char* out, double value, int decimals) {
   int places = decimals > 9 ? 8 : (decimals < 0 ? 0 : decimals);
-  char* out = buffer;
   if (value < 0) {
     *out++ = '-';
     value = -value;
@@ -225,32 +228,29 @@ char* sPrintNumber(char* buffer, size_t size, double value, int decimals, char**
     std::memcpy(out, digits, static_cast<size_t>(kept));
     out += kept;
   }
-  *out = 0;
-  if (outEnd) *outEnd = out;
-  return buffer;
+  return out;
 }
 
-char* sPrintInteger(char* buffer, size_t size, long value, char** outEnd) {
-  if (!buffer || size == 0) {
-    if (outEnd) *outEnd = buffer;
-    return buffer;
-  }
-  if (size < kNumberTextSize) {
-    char text[kNumberTextSize];
-    char* end = nullptr;
-    sPrintInteger(text, sizeof text, value, &end);
-    return sCopyNumberText(text, static_cast<size_t>(end - text), buffer, size, outEnd);
-  }
-  char* out = buffer;
+// The text of sPrintInteger at `out`, without its end zero; its end.
+char* pWriteInteger(char* out, long value) {
   uint64_t magnitude = static_cast<uint64_t>(value);
   if (value < 0) {
     *out++ = '-';
     magnitude = 0 - magnitude;
   }
-  out = pWriteDigits(out, magnitude);
-  *out = 0;
-  if (outEnd) *outEnd = out;
-  return buffer;
+  return pWriteDigits(out, magnitude);
+}
+
+}  // namespace
+
+char* sPrintNumber(char* buffer, size_t size, double value, int decimals, char** outEnd) {
+  return sPrintFitted(buffer, size, outEnd,
+                      [value, decimals](char* out) { return pWriteNumber(out, value, decimals); });
+}
+
+char* sPrintInteger(char* buffer, size_t size, long value, char** outEnd) {
+  return sPrintFitted(buffer, size, outEnd,
+                      [value](char* out) { return pWriteInteger(out, value); });
 }
 
 char* sTrimZeros(char* text) {

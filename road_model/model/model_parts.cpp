@@ -289,93 +289,59 @@ void vRmModelCommitSurfGen(RmModel* model) {
 #undef KVRVIPS_PENDING_SLOT_BUT_COMMIT
 #undef KVRVIPS_SINGLE_SLOT
 
-// ---- The section sets ----
+// ---- The section sets and the vocabulary ----
 
 namespace {
 
-// A set handed to a slot carries the slot's kind.
-void vStampKind(RmSectionSet* set, int32_t kind) {
-  if (set) set->Kind = kind;
+template <typename List>
+void vStampListKind(List* list, int32_t kind) {
+  if (list) list->Kind = kind;
 }
+// Layer names have no kind.
+void vStampListKind(RmLayerNames*, int32_t) {}
 
 }  // namespace
 
-RmSectionSet* RmModelGetCrossSections(const RmModel* model) {
-  return model ? model->CrossSections : nullptr;
-}
+// The typed accessors of a slot with a pending form whose lists carry the
+// slot's kind: Set and Prepare stamp `kind` into a list that has a kind.
+#define KVRVIPS_KIND_SLOT(Name, Type, SlotType, kind)                                    \
+  Type* RmModelGet##Name(const RmModel* model) { return model ? model->Name : nullptr; } \
+  void vRmModelSet##Name(RmModel* model, Type* object) {                                 \
+    if (!model) return;                                                                  \
+    vStampListKind(object, kind);                                                        \
+    SlotType::Replace(&model->Name, object);                                             \
+  }                                                                                      \
+  Type* RmModelGet##Name##Pending(const RmModel* model) {                                \
+    return model ? model->Name##Pending : nullptr;                                       \
+  }                                                                                      \
+  Type* RmModelGet##Name##Effective(const RmModel* model) {                              \
+    if (!model) return nullptr;                                                          \
+    return model->Name##Pending ? model->Name##Pending : model->Name;                    \
+  }                                                                                      \
+  Type* RmModelPrepare##Name(RmModel* model) {                                           \
+    if (!model) return nullptr;                                                          \
+    Type* pending = SlotType::Prepare(model);                                            \
+    vStampListKind(pending, kind);                                                       \
+    return pending;                                                                      \
+  }                                                                                      \
+  void vRmModelCommit##Name(RmModel* model) {                                            \
+    if (model) SlotType::Commit(model);                                                  \
+  }                                                                                      \
+  void vRmModelDiscard##Name(RmModel* model) {                                           \
+    if (model) SlotType::DiscardPending(model);                                          \
+  }
 
-void vRmModelSetCrossSections(RmModel* model, RmSectionSet* set) {
-  if (!model) return;
-  vStampKind(set, kRmCrossSections);
-  CrossSectionsSlot::Replace(&model->CrossSections, set);
-}
+KVRVIPS_KIND_SLOT(CrossSections, RmSectionSet, CrossSectionsSlot, kRmCrossSections)
+KVRVIPS_KIND_SLOT(LongSections, RmSectionSet, LongSectionsSlot, kRmLongSections)
 
 RmSectionSet* RmModelGetOrCreateCrossSections(RmModel* model) {
   if (model && !model->CrossSections) vRmModelSetCrossSections(model, RmSectionSetCreate());
   return RmModelGetCrossSections(model);
 }
 
-RmSectionSet* RmModelGetCrossSectionsPending(const RmModel* model) {
-  return model ? model->CrossSectionsPending : nullptr;
-}
-
-RmSectionSet* RmModelGetCrossSectionsEffective(const RmModel* model) {
-  if (!model) return nullptr;
-  return model->CrossSectionsPending ? model->CrossSectionsPending : model->CrossSections;
-}
-
-RmSectionSet* RmModelPrepareCrossSections(RmModel* model) {
-  if (!model) return nullptr;
-  RmSectionSet* pending = CrossSectionsSlot::Prepare(model);
-  vStampKind(pending, kRmCrossSections);
-  return pending;
-}
-
-void vRmModelCommitCrossSections(RmModel* model) {
-  if (model) CrossSectionsSlot::Commit(model);
-}
-
-void vRmModelDiscardCrossSections(RmModel* model) {
-  if (model) CrossSectionsSlot::DiscardPending(model);
-}
-
-RmSectionSet* RmModelGetLongSections(const RmModel* model) {
-  return model ? model->LongSections : nullptr;
-}
-
-void vRmModelSetLongSections(RmModel* model, RmSectionSet* set) {
-  if (!model) return;
-  vStampKind(set, kRmLongSections);
-  LongSectionsSlot::Replace(&model->LongSections, set);
-}
-
 RmSectionSet* RmModelGetOrCreateLongSections(RmModel* model) {
   if (model && !model->LongSections) vRmModelSetLongSections(model, RmSectionSetCreate());
   return RmModelGetLongSections(model);
-}
-
-RmSectionSet* RmModelGetLongSectionsPending(const RmModel* model) {
-  return model ? model->LongSectionsPending : nullptr;
-}
-
-RmSectionSet* RmModelGetLongSectionsEffective(const RmModel* model) {
-  if (!model) return nullptr;
-  return model->LongSectionsPending ? model->LongSectionsPending : model->LongSections;
-}
-
-RmSectionSet* RmModelPrepareLongSections(RmModel* model) {
-  if (!model) return nullptr;
-  RmSectionSet* pending = LongSectionsSlot::Prepare(model);
-  vStampKind(pending, kRmLongSections);
-  return pending;
-}
-
-void vRmModelCommitLongSections(RmModel* model) {
-  if (model) LongSectionsSlot::Commit(model);
-}
-
-void vRmModelDiscardLongSections(RmModel* model) {
-  if (model) LongSectionsSlot::DiscardPending(model);
 }
 
 RmSectionSet* RmModelGetSectionSet(const RmModel* model, int kind) {
@@ -390,59 +356,15 @@ void vRmModelSetSectionSet(RmModel* model, int kind, RmSectionSet* set) {
   }
 }
 
-// ---- The vocabulary ----
+KVRVIPS_KIND_SLOT(LayerNames, RmLayerNames, LayerNamesSlot, -1)
+KVRVIPS_KIND_SLOT(CSectMassTypes, RmMassTypes, CSectMassTypesSlot, kRmMassTypesCross)
+KVRVIPS_KIND_SLOT(LSectMassTypes, RmMassTypes, LSectMassTypesSlot, kRmMassTypesLong)
+KVRVIPS_KIND_SLOT(CSectAnnotationTypes, RmAnnotationTypes, CSectAnnotationTypesSlot,
+                  kRmMassTypesCross)
+KVRVIPS_KIND_SLOT(LSectAnnotationTypes, RmAnnotationTypes, LSectAnnotationTypesSlot,
+                  kRmMassTypesLong)
 
-namespace {
-
-template <typename List>
-void vStampListKind(List* list, int32_t kind) {
-  if (list) list->Kind = kind;
-}
-// Layer names have no kind.
-void vStampListKind(RmLayerNames*, int32_t) {}
-
-}  // namespace
-
-// The operations of a slot that are the same for every slot of the
-// vocabulary; Set and Prepare stamp `kind` into a list that has a kind.
-#define KVRVIPS_VOCABULARY_SLOT(Name, Type, SlotType, kind)                        \
-  Type* RmModelGet##Name(const RmModel* model) {                                  \
-    return model ? model->Name : nullptr;                                         \
-  }                                                                               \
-  void vRmModelSet##Name(RmModel* model, Type* object) {                          \
-    if (!model) return;                                                           \
-    vStampListKind(object, kind);                                                 \
-    SlotType::Replace(&model->Name, object);                                      \
-  }                                                                               \
-  Type* RmModelGet##Name##Pending(const RmModel* model) {                         \
-    return model ? model->Name##Pending : nullptr;                                \
-  }                                                                               \
-  Type* RmModelGet##Name##Effective(const RmModel* model) {                       \
-    if (!model) return nullptr;                                                   \
-    return model->Name##Pending ? model->Name##Pending : model->Name;             \
-  }                                                                               \
-  Type* RmModelPrepare##Name(RmModel* model) {                                    \
-    if (!model) return nullptr;                                                   \
-    Type* pending = SlotType::Prepare(model);                                     \
-    vStampListKind(pending, kind);                                                \
-    return pending;                                                               \
-  }                                                                               \
-  void vRmModelCommit##Name(RmModel* model) {                                     \
-    if (model) SlotType::Commit(model);                                           \
-  }                                                                               \
-  void vRmModelDiscard##Name(RmModel* model) {                                    \
-    if (model) SlotType::DiscardPending(model);                                   \
-  }
-
-KVRVIPS_VOCABULARY_SLOT(LayerNames, RmLayerNames, LayerNamesSlot, -1)
-KVRVIPS_VOCABULARY_SLOT(CSectMassTypes, RmMassTypes, CSectMassTypesSlot, kRmMassTypesCross)
-KVRVIPS_VOCABULARY_SLOT(LSectMassTypes, RmMassTypes, LSectMassTypesSlot, kRmMassTypesLong)
-KVRVIPS_VOCABULARY_SLOT(CSectAnnotationTypes, RmAnnotationTypes, CSectAnnotationTypesSlot,
-                        kRmMassTypesCross)
-KVRVIPS_VOCABULARY_SLOT(LSectAnnotationTypes, RmAnnotationTypes, LSectAnnotationTypesSlot,
-                        kRmMassTypesLong)
-
-#undef KVRVIPS_VOCABULARY_SLOT
+#undef KVRVIPS_KIND_SLOT
 
 RmLayerNames* RmModelGetOrCreateLayerNames(RmModel* model) {
   if (model && !model->LayerNames) vRmModelSetLayerNames(model, RmLayerNamesCreate());

@@ -37,54 +37,24 @@ const std::string kFromVersion3 =
            " 50.0000 0 0.5000", "CODE 411", " 0.0000 0 4.0000", " 100.0000 0 2.0000", "CODE 511",
            " 0.0000 0 7.0000", "CODE 1161", " 0.0000 0 0.5000", "CODE 1162", " 0.0000 0 0.5000"});
 
+// The old codes, which versions from 4 on keep as they are.
+const std::string kOldCodesKept =
+    sCrLf({"CODE 13", " 0.0000 0 2.5000", "CODE 20", " 0.0000 0 0.5000", "CODE 26",
+           " 0.0000 0 1.0000", "CODE 40", " 0.0000 0 -4.0000", " 100.0000 0 -2.0000", "CODE 41",
+           " 50.0000 0 1.5000", "CODE 51", " 0.0000 0 7.0000"});
+
 // Versions 4 to 8 keep every code; 210 splits into a magnitude and a
 // direction (zero has none), 510 and 511 change places.
 std::string sFromVersion8(const char* value411) {
-  return sCrLf({"CODE 13",
-                " 0.0000 0 2.5000",
-                "CODE 20",
-                " 0.0000 0 0.5000",
-                "CODE 26",
-                " 0.0000 0 1.0000",
-                "CODE 40",
-                " 0.0000 0 -4.0000",
-                " 100.0000 0 -2.0000",
-                "CODE 41",
-                " 50.0000 0 1.5000",
-                "CODE 51",
-                " 0.0000 0 7.0000",
-                "CODE 210",
-                " 0.0000 0 0.0250",
-                " 100.0000 1 0.0000",
-                "CODE 211",
-                " 0.0000 0 -100.0000",
-                " 100.0000 1 -99999.0000",
-                "CODE 411",
-                std::string(" 0.0000 0 ") + value411,
-                "CODE 511",
-                " 0.0000 2 1.0000"});
+  return kOldCodesKept +
+         sCrLf({"CODE 210", " 0.0000 0 0.0250", " 100.0000 1 0.0000", "CODE 211",
+                " 0.0000 0 -100.0000", " 100.0000 1 -99999.0000", "CODE 411",
+                std::string(" 0.0000 0 ") + value411, "CODE 511", " 0.0000 2 1.0000"});
 }
 
-const std::string kUnchanged = sCrLf({"CODE 13",
-                                      " 0.0000 0 2.5000",
-                                      "CODE 20",
-                                      " 0.0000 0 0.5000",
-                                      "CODE 26",
-                                      " 0.0000 0 1.0000",
-                                      "CODE 40",
-                                      " 0.0000 0 -4.0000",
-                                      " 100.0000 0 -2.0000",
-                                      "CODE 41",
-                                      " 50.0000 0 1.5000",
-                                      "CODE 51",
-                                      " 0.0000 0 7.0000",
-                                      "CODE 210",
-                                      " 0.0000 0 -2.5000",
-                                      " 100.0000 1 0.0000",
-                                      "CODE 411",
-                                      " 0.0000 0 4.0000",
-                                      "CODE 510",
-                                      " 0.0000 2 1.0000"});
+const std::string kUnchanged =
+    kOldCodesKept + sCrLf({"CODE 210", " 0.0000 0 -2.5000", " 100.0000 1 0.0000", "CODE 411",
+                           " 0.0000 0 4.0000", "CODE 510", " 0.0000 2 1.0000"});
 
 }  // namespace
 
