@@ -46,17 +46,23 @@ class LineCursor {
 // The offsets of both lines within the ends, and the ends, rising, each once.
 std::vector<double> Offsets(const SgHeightLine& upper, const SgHeightLine& lower, double from,
                             double to) {
+  // Both lines rise already: merged as they come.
   std::vector<double> offsets;
   offsets.reserve(upper.size() + lower.size() + 2);
   offsets.push_back(from);
-  offsets.push_back(to);
-  for (const SgHeightLine* line : {&upper, &lower}) {
-    for (const SgLinePoint& point : *line) {
-      if (point.X > from && point.X < to) offsets.push_back(point.X);
+  const auto add = [&](double x) {
+    if (x > offsets.back() && x < to) offsets.push_back(x);
+  };
+  size_t u = 0;
+  size_t l = 0;
+  while (u < upper.size() || l < lower.size()) {
+    if (l == lower.size() || (u < upper.size() && upper[u].X < lower[l].X)) {
+      add(upper[u++].X);
+    } else {
+      add(lower[l++].X);
     }
   }
-  std::sort(offsets.begin(), offsets.end());
-  offsets.erase(std::unique(offsets.begin(), offsets.end()), offsets.end());
+  offsets.push_back(to);
   return offsets;
 }
 

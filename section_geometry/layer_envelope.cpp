@@ -123,6 +123,13 @@ bool boLayerListBottom(const RmSection* section, const RmLayerList* list, double
   std::vector<Run> runs;
   if (!boCollectRuns(section, list, &runs)) return false;
   const bool united = list->Join == kUnited;
+  if (runs.size() == 1) {
+    // One layer is its own bottom.
+    for (const RmPoint* point = runs.front().At; point; point = point->Next) {
+      line->push_back({point->X, point->Z + lift});
+    }
+    return true;
+  }
   double from = 0.0;
   double to = 0.0;
   if (!boSpan(&runs, united, &from, &to)) return false;

@@ -142,16 +142,16 @@ YgPolygon* MassPolygon(const RmModel* model, const RmSection* section,
 
   const double lift = massType->MinThickness > 0.0 ? kSgThicknessLift : 0.0;
   YgPolygon* result = nullptr;
-  if (!boDirectRoom(section, massType, box, lift, &result)) {
-    result = ClippedRoom(section, massType, box, lift);
-  }
+  // The direct room never reaches past the box sideways.
+  const bool direct = boDirectRoom(section, massType, box, lift, &result);
+  if (!direct) result = ClippedRoom(section, massType, box, lift);
   if (!result) return nullptr;
 
   if (iRmMassTypesGetKind(massTypes) == kRmMassTypesLong) {
     YgPolygon* frame = RangeFrame(section, massType, box);
     vClipInPlace(&result, frame, kYgClipIntersection);
     vYgPolygonDelete(&frame);
-  } else if (!boInsideBoxSideways(result, box)) {
+  } else if (!direct && !boInsideBoxSideways(result, box)) {
     YgPolygon* frame = BoxPolygon(box);
     vClipInPlace(&result, frame, kYgClipIntersection);
     vYgPolygonDelete(&frame);
