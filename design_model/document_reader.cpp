@@ -3,6 +3,8 @@
 #include <simdjson.h>
 
 #include <algorithm>
+#include <cstring>
+#include <memory>
 #include <string>
 
 #include "base/platform.h"
@@ -80,9 +82,25 @@ bool boReadSide(simdjson::dom::object root, const char* name, std::unique_ptr<Si
   return true;
 }
 
-// Reads a document of `size` bytes. `padded`: the buffer has the parser's
-// padding behind the bytes, so that it need not be copied.
-Design ReadDocumentBytes(const char* bytes, size_t size, bool padded, DocumentProblem* problem) {
+// Parses `size` bytes into `document`, giving the parser's result in
+// `error`; false when the parser cannot have the memory for the text. The
+// parser's index of the text, as large as the text itself, is given back
+// before the records are read.
+bool boParseDocument(const char* bytes, size_t size, bool padded, simdjson::dom::document& document,
+                     simdjson::dom::element& root, simdjson::error_code& error) {
+  simdjson::dom::parser parser;
+  if (parser.allocate(std::max<size_t>(size, 64), kMaxDocumentNesting) != simdjson::SUCCESS) {
+    return false;
+  }
+  error = parser.parse_into_document(document, bytes, size, !padded).get(root);
+  return true;
+}
+
+// Reads a document of `size` bytes. `padded`: the buffer is the owned one,
+// with the parser's padding behind the bytes, so that it need not be copied;
+// it is freed once parsed, as the parsed document holds copies of its strings.
+Design ReadDocumentBytes(const char* bytes, size_t size, std::unique_ptr<char[]>* padded,
+                         DocumentProblem* problem) {
   if (!bytes) {
     bytes = "";
     size = 0;
@@ -97,12 +115,12 @@ Design ReadDocumentBytes(const char* bytes, size_t size, bool padded, DocumentPr
   if (size > kMaxDocumentBytes) {
     return Refuse(problem, kOpenIllegal, "", "a document of at most 1073741824 bytes");
   }
-  simdjson::dom::parser parser;
-  if (parser.allocate(std::max<size_t>(size, 64), kMaxDocumentNesting) != simdjson::SUCCESS) {
-    return Refuse(problem, kOpenIllegal, "", "a document that fits in memory");
-  }
+  simdjson::dom::document document;
   simdjson::dom::element root;
-  simdjson::error_code error = parser.parse(bytes, size, !padded).get(root);
+  simdjson::error_code error;
+  bool parsed = boParseDocument(bytes, size, padded != nullptr, document, root, error);
+  if (padded) padded->reset();
+  if (!parsed) return Refuse(problem, kOpenIllegal, "", "a document that fits in memory");
   if (error != simdjson::SUCCESS) {
     return Refuse(problem, kOpenIllegal, "",
                   std::string("a JSON document (") + simdjson::error_message(error) + ")");
@@ -147,7 +165,7 @@ class OpenFile {
 
 std::unique_ptr<DesignModelRecord> ReadDocumentText(std::string_view text,
                                                     DocumentProblem* problem) {
-  return ReadDocumentBytes(text.data(), text.size(), false, problem);
+  return ReadDocumentBytes(text.data(), text.size(), nullptr, problem);
 }
 
 std::unique_ptr<DesignModelRecord> ReadDocumentFile(const char* path, DocumentProblem* problem) {
@@ -160,17 +178,20 @@ std::unique_ptr<DesignModelRecord> ReadDocumentFile(const char* path, DocumentPr
     return Refuse(problem, kOpenIllegal, "", "a document of at most 1073741824 bytes");
   }
   // Read into a buffer with the parser's padding behind the bytes. A file
-  // that grows while it is read is taken up to its size at the start.
+  // that grows while it is read is taken up to its size at the start. Only
+  // the padding behind what was read is cleared: the read fills the rest.
   size_t size = static_cast<size_t>(fileSize);
-  std::string buffer(size + simdjson::SIMDJSON_PADDING, '\0');
+  auto buffer = std::make_unique_for_overwrite<char[]>(size + simdjson::SIMDJSON_PADDING);
   size_t have = 0;
   while (have < size) {
-    int64_t count = lPlatformFileRead(file.get(), buffer.data() + have, size - have);
+    int64_t count = lPlatformFileRead(file.get(), buffer.get() + have, size - have);
     if (count < 0) return Refuse(problem, kOpenNotReadable, "", unreadable);
     if (count == 0) break;
     have += static_cast<size_t>(count);
   }
-  std::unique_ptr<DesignModelRecord> design = ReadDocumentBytes(buffer.data(), have, true, problem);
+  std::memset(buffer.get() + have, 0, simdjson::SIMDJSON_PADDING);
+  const char* bytes = buffer.get();
+  std::unique_ptr<DesignModelRecord> design = ReadDocumentBytes(bytes, have, &buffer, problem);
   if (design) design->documentPath = path;
   return design;
 }

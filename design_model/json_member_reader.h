@@ -1,9 +1,10 @@
 // Reads the members of the design document into the held records.
 //
 // Every record names its members in Describe; the reader walks those names,
-// looks each up in the JSON object and reads it by the type of the field. An
-// absent member keeps the field's default. The first bad value stops the
-// walk: its place is kept as a JSON pointer, built while the walk unwinds.
+// finds each in the JSON object (the first member of that name) and reads it
+// by the type of the field. An absent member keeps the field's default. The
+// first bad value stops the walk: its place is kept as a JSON pointer, built
+// while the walk unwinds.
 #pragma once
 
 #include <simdjson.h>
@@ -65,18 +66,35 @@ bool boReadValue(simdjson::dom::element value, Record& out, ReadState& state);
 // Reads the members that a record names from one JSON object.
 class MemberReader {
  public:
-  MemberReader(simdjson::dom::object object, ReadState& state) : object_(object), state_(state) {}
+  MemberReader(simdjson::dom::object object, ReadState& state)
+      : object_(object), next_(object.begin()), end_(object.end()), state_(state) {}
 
   template <class Field>
-  void operator()(const char* name, Field& field) {
+  void operator()(std::string_view name, Field& field) {
     if (state_.boFailed()) return;
     simdjson::dom::element value;
-    if (object_.at_key(name).get(value) != simdjson::SUCCESS) return;
+    if (!boFind(name, value)) return;
     if (!boReadValue(value, field, state_)) state_.vPrefix(name);
   }
 
  private:
+  // Finds the first member called `name`. Documents list the members in the
+  // order that the record names them, so the member after the last one taken
+  // in that order is tried first: every member before it was taken for an
+  // earlier name, none of them this one, so a match there is the first of its
+  // name. Any other order falls back to a search of the whole object.
+  bool boFind(std::string_view name, simdjson::dom::element& value) {
+    if (next_ != end_ && next_.key_equals(name)) {
+      value = next_.value();
+      ++next_;
+      return true;
+    }
+    return object_.at_key(name).get(value) == simdjson::SUCCESS;
+  }
+
   simdjson::dom::object object_;
+  simdjson::dom::object::iterator next_;
+  simdjson::dom::object::iterator end_;
   ReadState& state_;
 };
 

@@ -82,6 +82,33 @@ TEST(DesignDocumentReading, AbsentMembersReadAtTheirDefaults) {
   EXPECT_DOUBLE_EQ(design->GetR()->GetSections()[0]->GetModel()->GetRailwayRefElevation(), 0.0);
 }
 
+// Members may stand in any order, and of two members of one name the first
+// counts, also when a later one stands where the record's order expects it.
+TEST(DesignDocumentReading, MembersInAnyOrderAndTheFirstOfOneNameCounts) {
+  struct Case {
+    const char* input;
+    double version;
+    int32_t type;
+    int32_t alignment;
+  };
+  const Case kCases[] = {
+      {R"({"referenceAlignmentId":3,"modelType":2,"modelVersionNumber":1.5})", 1.5, 2, 3},
+      {R"({"modelVersionNumber":1.5,"modelVersionNumber":4,"modelType":2})", 1.5, 2, 0},
+      {R"({"referenceAlignmentId":9,"modelVersionNumber":1.5,"modelType":2,)"
+       R"("referenceAlignmentId":3})",
+       1.5, 2, 9},
+      {R"({"own":1,"modelType":2,"modelType":5,"modelVersionNumber":1.5})", 1.5, 2, 0},
+  };
+  for (const Case& c : kCases) {
+    std::unique_ptr<DesignModelRecord> design =
+        Read(std::string(R"({"format":"design-model","formatVersion":1,"input":)") + c.input + "}");
+    ASSERT_TRUE(design) << c.input;
+    EXPECT_DOUBLE_EQ(design->GetI()->GetModelVersionNumber(), c.version) << c.input;
+    EXPECT_EQ(design->GetI()->GetModelType(), c.type) << c.input;
+    EXPECT_EQ(design->GetI()->GetReferenceAlignmentID(), c.alignment) << c.input;
+  }
+}
+
 TEST(DesignDocumentReading, SidesAbsentOrNullAreNotThere) {
   for (const char* text :
        {R"({"format":"design-model","formatVersion":1})",

@@ -85,6 +85,9 @@ TEST(DesignDocumentOpening, ABadDocumentIsError3AndNamesItsFirstBadMember) {
       {WithInput(R"({"modelVersionNumber":"10"})"), "/input/modelVersionNumber",
        "a number or null"},
       {WithInput(R"({"modelType":1.5})"), "/input/modelType", kInt32},
+      // The first bad member in the record's order, not in the text's.
+      {WithInput(R"({"modelType":"x","modelVersionNumber":"y"})"), "/input/modelVersionNumber",
+       "a number or null"},
       {WithInput(R"({"modelType":1.0})"), "/input/modelType", kInt32},
       {WithInput(R"({"referenceAlignmentId":2147483648})"), "/input/referenceAlignmentId", kInt32},
       {WithInput(R"({"referenceAlignmentId":-2147483649})"), "/input/referenceAlignmentId",
