@@ -1,9 +1,6 @@
 #include "vips_import/readers/misc_layers.h"
 
-#include <algorithm>
-#include <cmath>
 #include <cstdint>
-#include <limits>
 #include <string>
 #include <vector>
 
@@ -12,7 +9,7 @@
 #include "road_model/codes/layer_texts.h"
 #include "road_model/model/model_parts.h"
 #include "road_model/sections/layer.h"
-#include "road_model/sections/section.h"
+#include "road_model/sections/section_cursor.h"
 #include "road_model/sections/section_set.h"
 #include "vips_import/driver/import_log.h"
 #include "vips_import/readers/physical_profiles.h"
@@ -63,32 +60,6 @@ void vReadSection(const CRTerrainSection* terrain, const CInData* in, RmModel* m
   }
 }
 
-// Where the search for the next section may start: no section in front of
-// `From` stands beyond `Highest`, so that none of them lies at a chainage
-// well above that. The design's sections mostly come by rising chainage,
-// and each is then found without walking the road from its start again.
-struct SectionCursor {
-  RmSection* From = nullptr;
-  double Highest = 0.0;
-};
-
-// The first cross section within the tolerance of `chain`, as a walk from
-// the first section finds it.
-RmSection* SectionAt(const RmSectionSet* set, double chain, SectionCursor* cursor) {
-  const bool ahead =
-      cursor->From && chain - cursor->Highest > 2.0 * kRmSectionChainTolerance;
-  RmSection* section = ahead ? cursor->From : RmSectionsGetFirst(set);
-  double highest = ahead ? cursor->Highest : -std::numeric_limits<double>::infinity();
-  for (; section; section = section->Next) {
-    if (std::fabs(section->Chain - chain) < kRmSectionChainTolerance) {
-      *cursor = {section, highest};
-      return section;
-    }
-    highest = std::max(highest, section->Chain);
-  }
-  return nullptr;
-}
-
 }  // namespace
 
 void vVipsReadMiscLayers(const NpDesignModel::CResultData* res, const CInData* in,
@@ -98,9 +69,10 @@ void vVipsReadMiscLayers(const NpDesignModel::CResultData* res, const CInData* i
   RmSectionSet* set = RmModelGetOrCreateCrossSections(model);
   if (set && res) {
     const std::vector<const NpDesignModel::CRResultSection*> sections = res->GetSections();
-    SectionCursor cursor;
+    // The design's sections mostly come by rising chainage.
+    RmSectionCursor cursor;
     for (const NpDesignModel::CRResultSection* source : sections) {
-      RmSection* section = SectionAt(set, source->GetChainage(), &cursor);
+      RmSection* section = RmSectionCursorFindAtChain(set, &cursor, source->GetChainage());
       if (section) vReadSection(source->GetTerrain(), in, model, section);
     }
   }

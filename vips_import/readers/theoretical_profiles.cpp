@@ -6,6 +6,7 @@
 #include "design_model/design_model.h"
 #include "road_model/codes/pcode.h"
 #include "road_model/model/model_parts.h"
+#include "road_model/sections/section_cursor.h"
 #include "road_model/sections/section_set.h"
 #include "road_model/surfaces/surf_gen.h"
 #include "road_model/surfaces/surface_groups.h"
@@ -31,26 +32,13 @@ constexpr double kSplitSoddingsVersion = 10.0;
 const char kEdgeReinforcement[] = "Kantforsterkning";
 const char kRoadBed[] = "Trau";
 
-// Where the search for the next section may start: every section in front
-// of `From` stands before `Chain`, so that for a chainage from `Chain` on
-// the first section at it or beyond lies at `From` or behind it. The
-// design's sections mostly come by rising chainage, and each is then found
-// without walking the road from its start again.
-struct SectionCursor {
-  RmSection* From = nullptr;
-  double Chain = 0.0;
-};
-
 // The cross section at `chain`: the one that stands there, or a new one in
 // its place by chainage (in front of the first section at it or beyond).
-RmSection* SectionAt(RmSectionSet* set, double chain, RmModel* model, SectionCursor* cursor) {
-  RmSection* found =
-      cursor->From && chain >= cursor->Chain ? cursor->From : RmSectionsGetFirst(set);
-  while (found && !(found->Chain >= chain)) found = found->Next;
+RmSection* SectionAt(RmSectionSet* set, double chain, RmModel* model, RmSectionCursor* cursor) {
+  RmSection* found = RmSectionCursorFindFirstFrom(set, cursor, chain);
   if (!found || std::fabs(found->Chain - chain) >= kSameChain) {
     found = VipsAddSection(set, found, chain, model);
   }
-  if (found) *cursor = {found, chain};
   return found;
 }
 
@@ -99,7 +87,8 @@ void vVipsReadTheoreticalProfiles(const NpDesignModel::CResultData* res,
   RmSurfaceRefHeights* heights = nullptr;
   if (group) heights = group->RefHeights ? group->RefHeights : RmSurfaceRefHeightsCreate();
 
-  SectionCursor cursor;
+  // The design's sections mostly come by rising chainage.
+  RmSectionCursor cursor;
   for (const NpDesignModel::CRResultSection* source : res->GetSections()) {
     const CRModelSection* ms = source->GetModel();
     const double ref = ms->GetRefElevation();

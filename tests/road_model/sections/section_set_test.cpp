@@ -9,6 +9,7 @@
 #include "geometry/line.h"
 #include "road_model/model/model.h"
 #include "road_model/model/model_parts.h"
+#include "road_model/sections/section_cursor.h"
 #include "road_model/sections/section_masses.h"
 #include "road_model/sections/section_set.h"
 #include "road_model/sections/section_work_area.h"
@@ -89,6 +90,24 @@ TEST(SectionSet, ChainageLookupsUseTheirOwnTolerances) {
   EXPECT_EQ(RmSectionsFindFirstFrom(set.get(), 20.5), nullptr);
   EXPECT_EQ(RmSectionsFindLastUpTo(set.get(), 19.5)->Chain, 10.0);
   EXPECT_EQ(RmSectionsFindLastUpTo(set.get(), -0.5), nullptr);
+}
+
+// A cursor finds what a walk from the first section finds, in a set out of
+// order too, for chainages that rise, repeat and fall back, also when a
+// section is added in front of the one found or at the end after a miss.
+TEST(SectionSet, CursorLookupsFindWhatAWalkFromTheFirstSectionFinds) {
+  SetPtr set = MakeSet({0.0, 10.0, 5.0, 10.0004, 20.0, 15.0});
+  RmSectionCursor atCursor;
+  RmSectionCursor fromCursor;
+  for (double chain : {-1.0, 0.0, 5.0, 10.0, 10.0003, 12.0, 15.0, 15.0, 4.9996, 20.0, 21.0,
+                       30.0, 10.0, 40.0}) {
+    SCOPED_TRACE(chain);
+    EXPECT_EQ(RmSectionCursorFindAtChain(set.get(), &atCursor, chain),
+              RmSectionsFindAtChainInSet(set.get(), chain));
+    RmSection* from = RmSectionCursorFindFirstFrom(set.get(), &fromCursor, chain);
+    ASSERT_EQ(from, RmSectionsFindFirstFrom(set.get(), chain));
+    if (!from || from->Chain != chain) RmSectionAdd(set.get(), from, chain);
+  }
 }
 
 TEST(SectionSet, TheWorkAreaHidesCrossSectionsOutsideItsRange) {
