@@ -29,18 +29,15 @@ int iRmSurfaceValuesAt(const RmSurface* surface, double chain, double* width, do
   *slope = kNullNumber;
 
   // The first row of the type at the chainage or after it, and the last
-  // one of the type before that.
-  const RmSurfaceRow* before = nullptr;
-  const RmSurfaceRow* at = nullptr;
-  for (const RmSurfaceRow* row = RmSurfaceRowsGetFirst(surface); row; row = row->Next) {
-    if (row->RowType != rowType) continue;
-    if (row->Chain >= chain || boEqual(row->Chain, chain)) {
-      at = row;
-      break;
-    }
-    before = row;
-  }
+  // one of the type in front of that.
+  const auto reaches = [chain](double rowChain) {
+    return rowChain >= chain || boEqual(rowChain, chain);
+  };
+  const RmSurfaceRow* at = RmSurfaceRowsSearchStart(surface, reaches);
+  while (at && !(at->RowType == rowType && reaches(at->Chain))) at = at->Next;
   if (!at) return 0;
+  const RmSurfaceRow* before = at->Prev;
+  while (before && before->RowType != rowType) before = before->Prev;
   if (!before && std::fabs(at->Chain - chain) >= kRmSurfaceRowTolerance) return 0;
   if (at->Chain - chain < kRmSurfaceRowTolerance) {
     if (!boRmSurfaceRowHasValue(at)) return 0;

@@ -1,5 +1,8 @@
 #include "road_model/surfaces/surfaces.h"
 
+#include <algorithm>
+#include <limits>
+
 #include "base/numbers.h"
 #include "base/text.h"
 #include "road_model/surfaces/surface_groups.h"
@@ -9,6 +12,28 @@ namespace {
 void vFreeSurface(RmSurface* surface) {
   vDLinkClear(&surface->Rows);
   vHeapFree(&surface->Descr);
+}
+
+// Whether `row` lies behind the search mark, as far as its neighbours tell:
+// right behind the mark, at the tail, or behind a row beyond the mark's top,
+// which no row up to the mark is.
+bool boBehindMark(const RmSurface* surface, const RmSurfaceRow* row) {
+  const RmSurfaceRow* previous = row->Prev;
+  return previous == surface->SearchMark || !row->Next ||
+         (previous && !(previous->Chain <= surface->SearchTop));
+}
+
+// A new row in front of `before` (null: at the end). A row that may have
+// landed in front of the search mark with a chainage beyond its top would
+// be passed over by searches that begin behind the mark, so the mark goes.
+RmSurfaceRow* NewRow(RmSurface* surface, RmSurfaceRow* before, double chain) {
+  auto* row = DLinkNewObjAs<RmSurfaceRow>(&surface->Rows, before);
+  if (!row) return nullptr;
+  row->Chain = chain;
+  if (surface->SearchMark && !(chain <= surface->SearchTop) && !boBehindMark(surface, row)) {
+    surface->SearchMark = nullptr;
+  }
+  return row;
 }
 
 }  // namespace
@@ -54,6 +79,7 @@ void vRmSurfaceCopy(RmSurface* to, const RmSurface* from) {
   if (!to || !from || to == from) return;
   vDLinkClear(&to->Rows);
   DLinkCopy(&from->Rows, &to->Rows, nullptr);
+  to->SearchMark = nullptr;
   vRmSurfaceSetDescr(to, from->Descr);
   to->Number = from->Number;
   to->SecondNumber = from->SecondNumber;
@@ -66,7 +92,9 @@ void vRmSurfaceDelete(RmSurfaceGroup* group, RmSurface* surface) {
 }
 
 void vRmSurfaceClearRows(RmSurface* surface) {
-  if (surface) vDLinkClear(&surface->Rows);
+  if (!surface) return;
+  vDLinkClear(&surface->Rows);
+  surface->SearchMark = nullptr;
 }
 
 void vRmSurfacesClear(RmSurfaceGroup* group) {
@@ -155,26 +183,18 @@ int iRmSurfaceRowsGetIndexOf(const RmSurface* surface, const RmSurfaceRow* row) 
 
 RmSurfaceRow* RmSurfaceRowAdd(RmSurface* surface, double chain) {
   if (!surface) return nullptr;
-  RmSurfaceRow* before = RmSurfaceRowFindFrom(surface, chain);
-  auto* row = DLinkNewObjAs<RmSurfaceRow>(&surface->Rows, before);
-  if (row) row->Chain = chain;
-  return row;
+  return NewRow(surface, RmSurfaceRowFindFrom(surface, chain), chain);
 }
 
 RmSurfaceRow* RmSurfaceRowAddBefore(RmSurface* surface, RmSurfaceRow* before, double chain) {
-  if (!surface) return nullptr;
-  auto* row = DLinkNewObjAs<RmSurfaceRow>(&surface->Rows, before);
-  if (row) row->Chain = chain;
-  return row;
+  return surface ? NewRow(surface, before, chain) : nullptr;
 }
 
 RmSurfaceRow* RmSurfaceRowAddBehind(RmSurface* surface, double chain) {
   if (!surface) return nullptr;
   RmSurfaceRow* before = RmSurfaceRowsGetFirst(surface);
   while (before && before->Chain <= chain) before = before->Next;
-  auto* row = DLinkNewObjAs<RmSurfaceRow>(&surface->Rows, before);
-  if (row) row->Chain = chain;
-  return row;
+  return NewRow(surface, before, chain);
 }
 
 RmSurfaceRow* RmSurfaceRowAddValues(RmSurface* surface, double chain, double width,
@@ -187,10 +207,33 @@ RmSurfaceRow* RmSurfaceRowAddValues(RmSurface* surface, double chain, double wid
   return row;
 }
 
+void vRmSurfaceRowDelete(RmSurface* surface, RmSurfaceRow* row) {
+  if (!surface || !row) return;
+  // The row in front of the mark keeps what the mark promised.
+  if (surface->SearchMark == row) surface->SearchMark = row->Prev;
+  vDLinkDeleteObj(&surface->Rows, row);
+}
+
 RmSurfaceRow* RmSurfaceRowFindFrom(const RmSurface* surface, double chain) {
-  RmSurfaceRow* row = RmSurfaceRowsGetFirst(surface);
-  while (row && row->Chain < chain) row = row->Next;
+  if (!surface) return nullptr;
+  const bool behindMark = surface->SearchMark && surface->SearchTop < chain;
+  RmSurfaceRow* passed = behindMark ? surface->SearchMark : nullptr;
+  double top = behindMark ? surface->SearchTop : -std::numeric_limits<double>::infinity();
+  RmSurfaceRow* row = passed ? passed->Next : RmSurfaceRowsGetFirst(surface);
+  for (; row && row->Chain < chain; row = row->Next) {
+    passed = row;
+    top = std::max(top, row->Chain);
+  }
+  // Every row up to the last one passed lies below `chain`, none beyond `top`.
+  if (passed) {
+    surface->SearchMark = passed;
+    surface->SearchTop = top;
+  }
   return row;
+}
+
+void vRmSurfaceRowsForgetSearch(const RmSurface* surface) {
+  if (surface) surface->SearchMark = nullptr;
 }
 
 RmSurfaceRow* RmSurfaceRowFindNextOfType(RmSurfaceRow* row, int rowType) {
@@ -218,6 +261,7 @@ void vRmSurfaceRowCopy(RmSurfaceRow* to, const RmSurfaceRow* from) {
 
 void vRmSurfaceRowsBubbleByChain(RmSurface* surface) {
   if (!surface) return;
+  vRmSurfaceRowsForgetSearch(surface);
   for (bool moved = true; moved;) {
     moved = false;
     for (RmSurfaceRow* row = RmSurfaceRowsGetFirst(surface); row && row->Next;) {

@@ -8,6 +8,14 @@
 // type: type 0 rows carry the surface's values, type 1 rows say where the
 // surface ends or starts again (a break). A width or slope that is not
 // present (base/numbers.h) is unset.
+//
+// Rows that a file or a design lists out of order stay as they are listed,
+// and every search by chainage gives what a walk from the first row gives.
+// A surface remembers where its last search left off (its search mark), so
+// that a road's sections asked in chainage order cost a short walk each and
+// not one from the first row. For that mark to stay true, rows are added,
+// deleted and moved through the functions below only, and a row's chainage
+// is not written once the row is in a list (see vRmSurfaceRowsForgetSearch).
 #pragma once
 
 #include <cstdint>
@@ -32,6 +40,13 @@ struct RmSurface {
   int32_t Number;        // :SURFACE, a surface number
   char* Descr;           // DESCR, owned; null when absent
   int32_t SecondNumber;  // the second number of :SURFACE
+  // The search mark: a row of the list or null, such that neither it nor a
+  // row in front of it lies beyond SearchTop. A search for a chainage above
+  // SearchTop would pass all these rows, so it may begin behind the mark.
+  // Not part of the surface's value, hence changed by searches of a const
+  // surface too.
+  mutable RmSurfaceRow* SearchMark;
+  mutable double SearchTop;
 };
 
 // ---- Surfaces of a group ----
@@ -89,15 +104,33 @@ RmSurfaceRow* RmSurfaceRowAddBehind(RmSurface* surface, double chain);
 // The same with width and slope, of type 0.
 RmSurfaceRow* RmSurfaceRowAddValues(RmSurface* surface, double chain, double width,
                                     double slope);
-// The first row at `chain` or later.
+// Takes the row out of the surface's list and deletes it.
+void vRmSurfaceRowDelete(RmSurface* surface, RmSurfaceRow* row);
+// The first row at `chain` or later: the first one, walking from the first
+// row, whose chainage is not below `chain`. Moves the search mark.
 RmSurfaceRow* RmSurfaceRowFindFrom(const RmSurface* surface, double chain);
+// Where a walk may begin that looks for the first row whose chainage
+// `reaches(chain)` holds for, where `reaches` holds for every chainage above
+// one that it holds for: the row behind the search mark when `reaches`
+// fails for the mark's top (and so for every row up to the mark), else the
+// first row. Leaves the mark as it is.
+template <typename Reaches>
+RmSurfaceRow* RmSurfaceRowsSearchStart(const RmSurface* surface, Reaches reaches) {
+  if (!surface) return nullptr;
+  if (surface->SearchMark && !reaches(surface->SearchTop)) return surface->SearchMark->Next;
+  return static_cast<RmSurfaceRow*>(surface->Rows.first);
+}
+// Drops the search mark, for code that writes the chainage of rows in the
+// list in place; the next search walks from the first row again.
+void vRmSurfaceRowsForgetSearch(const RmSurface* surface);
 // From `row` on, the first row of `rowType`.
 RmSurfaceRow* RmSurfaceRowFindNextOfType(RmSurfaceRow* row, int rowType);
 // From the row before `row` back, the first row of type 0.
 RmSurfaceRow* RmSurfaceRowFindPrevOfTypeZero(const RmSurfaceRow* row);
 // Width or slope is set.
 bool boRmSurfaceRowHasValue(const RmSurfaceRow* row);
-// Type, chainage, width and slope; the links stay.
+// Type, chainage, width and slope; the links stay. A row of a list that
+// gets another chainage this way needs vRmSurfaceRowsForgetSearch.
 void vRmSurfaceRowCopy(RmSurfaceRow* to, const RmSurfaceRow* from);
 // Puts the rows in ascending chainage by exchanging neighbours; rows whose
 // chainage is unset keep their place against their neighbours.

@@ -138,11 +138,11 @@ bool boVipsRowHasValue(const RmSurfaceRow* row) {
 void vVipsTrimSurfaceRows(RmSurface* surface) {
   while (RmSurfaceRow* row = RmSurfaceRowsGetFirst(surface)) {
     if (boVipsRowHasValue(row)) break;
-    vDLinkDeleteObj(&surface->Rows, row);
+    vRmSurfaceRowDelete(surface, row);
   }
   while (RmSurfaceRow* row = RmSurfaceRowsGetLast(surface)) {
     if (boVipsRowHasValue(row)) break;
-    vDLinkDeleteObj(&surface->Rows, row);
+    vRmSurfaceRowDelete(surface, row);
   }
 }
 

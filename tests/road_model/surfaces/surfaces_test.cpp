@@ -1,10 +1,12 @@
 // The surfaces of a surface group: their order across the road, the values
 // of a surface between its rows, the width and slope that a section's
-// builder gets (through tilt and border lines), and reference heights.
+// builder gets (through tilt and border lines), searches of rows that go on
+// from where the last one left off, and reference heights.
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <numbers>
+#include <utility>
 
 #include "base/numbers.h"
 #include "road_model/lines/plan_lines.h"
@@ -101,6 +103,61 @@ TEST(SurfaceValues, BreaksAndInheritedSlopes) {
   RmSurface* outer = RmSurfaceAdd(group, 2);
   const RmSurfaceRow* lone = AddRow(outer, 0, 500.0, 1.0, kNullNumber);
   EXPECT_EQ(dRmSurfaceRowInheritSlope(outer, lone), kNullNumber);
+}
+
+enum class RowStep { kAsk, kAddFirst, kAddBehindFound, kDeleteMark };
+
+TEST(SurfaceRows, SearchesGiveWhatAWalkFromTheFirstRowGives) {
+  Groups groups(RmSurfaceGroupsCreate());
+  RmSurfaceGroup* group = RmSurfaceGroupsAdd(groups, RmLayerIdMake(kRmLayerTheoretical, 0));
+  RmSurface* surface = RmSurfaceAdd(group, 1);
+  RmSurface* fresh = RmSurfaceAdd(group, 2);  // a copy without a search mark walks from the start
+  // Out of order, with a row of unset chainage, as files and designs may list them.
+  const double rows[][3] = {{10.0, 0, 1.0}, {30.0, 0, 3.0},
+                            {20.0, 1, 2.0}, {kNullNumber, 0, kNullNumber},
+                            {40.0, 0, 4.0}, {50.0, 1, 5.0}};
+  for (const auto& row : rows) {
+    RmSurfaceRow* added = RmSurfaceRowAddBefore(surface, nullptr, row[0]);
+    added->RowType = int(row[1]);
+    added->Width = row[2];
+  }
+  const std::pair<RowStep, double> steps[] = {
+      {RowStep::kAsk, 25.0},
+      {RowStep::kAsk, 35.0},
+      {RowStep::kAsk, 25.0},       // the row at 30 was passed on the way to 35
+      {RowStep::kAsk, 40.000005},  // the row at 40 counts for the values, not for the search
+      {RowStep::kAsk, 45.0},
+      {RowStep::kDeleteMark, 0.0},
+      {RowStep::kAsk, 45.0},
+      {RowStep::kAddFirst, 60.0},  // in front of the mark, beyond every row passed
+      {RowStep::kAsk, 55.0},
+      {RowStep::kAddBehindFound, 40.0},  // as the reconciliation adds a second row there
+      {RowStep::kAsk, 40.0},
+      {RowStep::kAsk, 15.0},
+  };
+  int index = 0;
+  for (const auto& [step, chain] : steps) {
+    SCOPED_TRACE(::testing::Message() << "step " << index++);
+    if (step == RowStep::kAddFirst) {
+      RmSurfaceRowAddBefore(surface, RmSurfaceRowsGetFirst(surface), chain)->Width = 9.0;
+    } else if (step == RowStep::kAddBehindFound) {
+      RmSurfaceRowAddBefore(surface, RmSurfaceRowFindFrom(surface, chain)->Next, chain);
+    } else if (step == RowStep::kDeleteMark) {
+      vRmSurfaceRowDelete(surface, surface->SearchMark);
+    } else {
+      vRmSurfaceCopy(fresh, surface);
+      const RmSurfaceRow* found = RmSurfaceRowFindFrom(surface, chain);
+      for (int rowType : {0, 1}) {
+        double got[2];
+        double walked[2];
+        EXPECT_EQ(iRmSurfaceValuesAt(surface, chain, &got[0], &got[1], rowType),
+                  iRmSurfaceValuesAt(fresh, chain, &walked[0], &walked[1], rowType));
+        EXPECT_EQ(got[0], walked[0]);
+      }
+      EXPECT_EQ(iRmSurfaceRowsGetIndexOf(surface, found),
+                iRmSurfaceRowsGetIndexOf(fresh, RmSurfaceRowFindFrom(fresh, chain)));
+    }
+  }
 }
 
 TEST(SurfaceGroups, OrderAndSideStarts) {
