@@ -10,6 +10,7 @@
 #include <simdjson.h>
 
 #include <cstdint>
+#include <cstring>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -69,29 +70,28 @@ class MemberReader {
   MemberReader(simdjson::dom::object object, ReadState& state)
       : object_(object), next_(object.begin()), end_(object.end()), state_(state) {}
 
-  template <class Field>
-  void operator()(std::string_view name, Field& field) {
+  // `name` is the literal that Describe gives, so that its length is known
+  // here and the member names compare without a call.
+  template <size_t Size, class Field>
+  void operator()(const char (&name)[Size], Field& field) {
     if (state_.boFailed()) return;
+    std::string_view key(name, Size - 1);
     simdjson::dom::element value;
-    if (!boFind(name, value)) return;
-    if (!boReadValue(value, field, state_)) state_.vPrefix(name);
+    if (next_ != end_ && next_.key_length() == Size - 1 &&
+        std::memcmp(next_.key_c_str(), name, Size - 1) == 0) {
+      // Documents list the members in the order that the record names them,
+      // so the member after the last one taken in that order is tried first:
+      // every member before it was taken for an earlier name, none of them
+      // this one, so a match there is the first of its name.
+      value = next_.value();
+      ++next_;
+    } else if (object_.at_key(key).get(value) != simdjson::SUCCESS) {
+      return;
+    }
+    if (!boReadValue(value, field, state_)) state_.vPrefix(key);
   }
 
  private:
-  // Finds the first member called `name`. Documents list the members in the
-  // order that the record names them, so the member after the last one taken
-  // in that order is tried first: every member before it was taken for an
-  // earlier name, none of them this one, so a match there is the first of its
-  // name. Any other order falls back to a search of the whole object.
-  bool boFind(std::string_view name, simdjson::dom::element& value) {
-    if (next_ != end_ && next_.key_equals(name)) {
-      value = next_.value();
-      ++next_;
-      return true;
-    }
-    return object_.at_key(name).get(value) == simdjson::SUCCESS;
-  }
-
   simdjson::dom::object object_;
   simdjson::dom::object::iterator next_;
   simdjson::dom::object::iterator end_;
