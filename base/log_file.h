@@ -8,6 +8,8 @@
 
 #include <cstddef>
 
+#include "base/printf_format.h"
+
 // Sets the path of the log file; at most 256 characters are kept.
 void vLogSetFileName(const char* path);
 // The path of the log file; empty until one is set.
@@ -26,7 +28,7 @@ int iLogSetLongStamp(bool flag);
 // end made a carriage return and line feed, cut to 4093 characters in all,
 // and a closing carriage return and line feed. A null format writes the stamp
 // alone.
-void vLogWrite(const char* format, ...) __attribute__((format(printf, 1, 2)));
+void vLogWrite(const char* format, ...) KVRVIPS_PRINTF_FORMAT(1, 2);
 
 // Deletes the log file; true on success.
 bool boLogDelete();

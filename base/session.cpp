@@ -6,6 +6,8 @@
 #include <cstdlib>
 #include <cstring>
 
+#include "base/printf_format.h"
+
 SessionContext* primarySession = nullptr;
 SessionContext* currentSession = nullptr;
 
@@ -23,7 +25,7 @@ const char* sOrEmpty(const char* text) { return text ? text : ""; }
 
 // Formats into `out` and ends the process when the result does not fit: a
 // key that long is a fault of the program, not of the data.
-__attribute__((format(printf, 3, 4))) void vFormatKey(char* out, size_t size, const char* format,
+KVRVIPS_PRINTF_FORMAT(3, 4) void vFormatKey(char* out, size_t size, const char* format,
                                                       ...) {
   va_list arguments;
   va_start(arguments, format);

@@ -8,6 +8,8 @@
 
 #include <cstddef>
 
+#include "base/printf_format.h"
+
 // The ring's capacity when it is first made.
 inline constexpr size_t kTempRingCapacity = 32768;
 // The per-thread format buffer's size.
@@ -22,7 +24,7 @@ char* sTempCopy(const char* text);
 
 // Formats printf-style into the calling thread's buffer of 2048 bytes and
 // returns it. Overflow truncates silently at 2047 characters.
-char* sFormat(const char* format, ...) __attribute__((format(printf, 1, 2)));
+char* sFormat(const char* format, ...) KVRVIPS_PRINTF_FORMAT(1, 2);
 
 // The ring's current capacity and position, for tests and statistics.
 size_t uTempRingCapacity();

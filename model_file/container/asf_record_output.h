@@ -4,6 +4,7 @@
 
 #include <cstddef>
 
+#include "base/printf_format.h"
 #include "geometry/point.h"
 #include "model_file/container/asf_handle.h"
 
@@ -36,7 +37,7 @@ void vAsfOutputLineEnd(AsfRecordOutput* output, char* end);
 // the room of a line.
 void vAsfOutputText(AsfRecordOutput* output, const char* text);
 void vAsfOutputFormat(AsfRecordOutput* output, const char* format, ...)
-    __attribute__((format(printf, 2, 3)));
+    KVRVIPS_PRINTF_FORMAT(2, 3);
 
 // The object's `_EXTENT` line, in the unpadded form.
 void vAsfOutputExtent(AsfRecordOutput* output, const ViExtent& extent);

@@ -6,6 +6,8 @@
 #include <cstdlib>
 #include <cstring>
 
+#include "base/printf_format.h"
+
 namespace {
 
 constexpr char kColor[] = "Color";
@@ -32,7 +34,7 @@ struct Output {
   size_t Room;  // bytes left, the terminator's included
 };
 
-void vAppend(Output* out, const char* format, ...) __attribute__((format(printf, 2, 3)));
+void vAppend(Output* out, const char* format, ...) KVRVIPS_PRINTF_FORMAT(2, 3);
 void vAppend(Output* out, const char* format, ...) {
   if (out->Room <= 1) return;
   va_list arguments;

@@ -15,6 +15,8 @@
 #include <cstddef>
 #include <cstring>
 
+#include "base/printf_format.h"
+
 struct AsfFile;
 struct AsfSection;
 
@@ -28,7 +30,7 @@ inline constexpr size_t kRecordQuoteSize = 1000;
 // Formats one line (cut to 1,999 bytes) and appends it to the section.
 // False when the write failed.
 bool boRecordWrite(AsfFile* file, AsfSection* section, const char* format, ...)
-    __attribute__((format(printf, 3, 4)));
+    KVRVIPS_PRINTF_FORMAT(3, 4);
 
 // ---- Reading ----
 
