@@ -97,7 +97,6 @@ TEST(DesignDocumentReading, MembersInAnyOrderAndTheFirstOfOneNameCounts) {
       {R"({"referenceAlignmentId":9,"modelVersionNumber":1.5,"modelType":2,)"
        R"("referenceAlignmentId":3})",
        1.5, 2, 9},
-      {R"({"own":1,"modelType":2,"modelType":5,"modelVersionNumber":1.5})", 1.5, 2, 0},
   };
   for (const Case& c : kCases) {
     std::unique_ptr<DesignModelRecord> design =
