@@ -235,16 +235,21 @@ std::span<const RmModelPart> RmModelParts() { return kParts; }
     if (model) SlotType::Replace(&model->Name, object); \
   }
 
+// The pending object of a slot, and the one that counts: the pending one
+// while there is one, else the committed one.
+#define KVRVIPS_PENDING_GETTERS(Name, Type)                           \
+  Type* RmModelGet##Name##Pending(const RmModel* model) {             \
+    return model ? model->Name##Pending : nullptr;                    \
+  }                                                                   \
+  Type* RmModelGet##Name##Effective(const RmModel* model) {           \
+    if (!model) return nullptr;                                       \
+    return model->Name##Pending ? model->Name##Pending : model->Name; \
+  }
+
 // The typed accessors of a slot with a pending form but its commit.
 #define KVRVIPS_PENDING_SLOT_BUT_COMMIT(Name, Type, SlotType)                 \
   KVRVIPS_SINGLE_SLOT(Name, Type, SlotType)                                   \
-  Type* RmModelGet##Name##Pending(const RmModel* model) {                     \
-    return model ? model->Name##Pending : nullptr;                            \
-  }                                                                           \
-  Type* RmModelGet##Name##Effective(const RmModel* model) {                   \
-    if (!model) return nullptr;                                               \
-    return model->Name##Pending ? model->Name##Pending : model->Name;         \
-  }                                                                           \
+  KVRVIPS_PENDING_GETTERS(Name, Type)                                         \
   Type* RmModelPrepare##Name(RmModel* model) {                                \
     return model ? SlotType::Prepare(model) : nullptr;                        \
   }                                                                           \
@@ -311,13 +316,7 @@ void vStampListKind(RmLayerNames*, int32_t) {}
     vStampListKind(object, kind);                                                        \
     SlotType::Replace(&model->Name, object);                                             \
   }                                                                                      \
-  Type* RmModelGet##Name##Pending(const RmModel* model) {                                \
-    return model ? model->Name##Pending : nullptr;                                       \
-  }                                                                                      \
-  Type* RmModelGet##Name##Effective(const RmModel* model) {                              \
-    if (!model) return nullptr;                                                          \
-    return model->Name##Pending ? model->Name##Pending : model->Name;                    \
-  }                                                                                      \
+  KVRVIPS_PENDING_GETTERS(Name, Type)                                                    \
   Type* RmModelPrepare##Name(RmModel* model) {                                           \
     if (!model) return nullptr;                                                          \
     Type* pending = SlotType::Prepare(model);                                            \
@@ -365,6 +364,7 @@ KVRVIPS_KIND_SLOT(LSectAnnotationTypes, RmAnnotationTypes, LSectAnnotationTypesS
                   kRmMassTypesLong)
 
 #undef KVRVIPS_KIND_SLOT
+#undef KVRVIPS_PENDING_GETTERS
 
 RmLayerNames* RmModelGetOrCreateLayerNames(RmModel* model) {
   if (model && !model->LayerNames) vRmModelSetLayerNames(model, RmLayerNamesCreate());
