@@ -1,5 +1,6 @@
 #include "geometry/line.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstring>
 
@@ -152,6 +153,20 @@ LiElm LiLineAddP(LiLine* line, double x, double y, double z) {
 
 LiElm LiLineAddP2d(LiLine* line, double x, double y) {
   return LiLineAddP(line, x, y, line != nullptr ? line->dHeight : 0.0);
+}
+
+LiElm LiLineAddPoints2d(LiLine* line, const ViPoint2d* points, size_t count) {
+  if (line == nullptr || points == nullptr || count == 0) return kLiNoElm;
+  const size_t first = line->elements.size();
+  // Room grows at least twice over, so that many small bulk adds stay linear.
+  if (line->elements.capacity() < first + count) {
+    line->elements.reserve(std::max(first + count, 2 * line->elements.capacity()));
+  }
+  for (size_t i = 0; i < count; ++i) {
+    line->elements.push_back(MakeElement(points[i].x, points[i].y, line->dHeight, kLiElmStraight));
+  }
+  line->pieces.reset();
+  return static_cast<LiElm>(first);
 }
 
 LiElm LiLineAddPInvisible(LiLine* line, double x, double y, double z) {

@@ -85,6 +85,10 @@ void vLiLineSetGuid(LiLine* line, const char* guid);
 // height is kept but not used.
 LiElm LiLineAddP(LiLine* line, double x, double y, double z);
 LiElm LiLineAddP2d(LiLine* line, double x, double y);
+// Adds `count` points as straights at once, with room made once; on a 2D
+// line they take its fixed height. Returns the position of the first, or
+// kLiNoElm when nothing was added.
+LiElm LiLineAddPoints2d(LiLine* line, const ViPoint2d* points, size_t count);
 // A point reached by an invisible move: the last element becomes the move,
 // and the new point starts a new part.
 LiElm LiLineAddPInvisible(LiLine* line, double x, double y, double z = 0.0);

@@ -159,16 +159,21 @@ int iLiPieceChordCount(const LiPiece& piece, double tolerance) {
   return std::clamp(static_cast<int>(std::ceil(chords - 1e-9)), 1, 1000000);
 }
 
+void vLiStraightAreaMoments(const ViPoint2d& start, const ViPoint2d& end, double originX,
+                            double originY, double* area, double* moment) {
+  const double x0 = start.x - originX, y0 = start.y - originY;
+  const double x1 = end.x - originX, y1 = end.y - originY;
+  *area = (x0 * y1 - x1 * y0) / 2.0;
+  *moment = (y1 - y0) * (x0 * x0 + x0 * x1 + x1 * x1) / 6.0;
+}
+
 void vLiPieceAreaMoments(const LiPiece& piece, double originX, double originY, double* area,
                          double* moment) {
   *area = 0.0;
   *moment = 0.0;
   if (piece.kind == LiPieceKind::kNone) return;
   if (piece.kind == LiPieceKind::kStraight) {
-    const double x0 = piece.start.x - originX, y0 = piece.start.y - originY;
-    const double x1 = piece.end.x - originX, y1 = piece.end.y - originY;
-    *area = (x0 * y1 - x1 * y0) / 2.0;
-    *moment = (y1 - y0) * (x0 * x0 + x0 * x1 + x1 * x1) / 6.0;
+    vLiStraightAreaMoments(piece.start, piece.end, originX, originY, area, moment);
     return;
   }
   // Gauss-Legendre along the length, in steps that turn at most kStepTurn.

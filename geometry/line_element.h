@@ -90,3 +90,7 @@ int iLiPieceChordCount(const LiPiece& piece, double tolerance);
 // ring give its signed area and its first moment about the y axis.
 void vLiPieceAreaMoments(const LiPiece& piece, double originX, double originY, double* area,
                          double* moment);
+// The same integrals over the straight from `start` to `end`: what the area of
+// a ring of straights needs, without making the piece or its length.
+void vLiStraightAreaMoments(const ViPoint2d& start, const ViPoint2d& end, double originX,
+                            double originY, double* area, double* moment);

@@ -20,6 +20,10 @@ bool boHasElm(const LiLine* line, LiElm elm) {
   return line != nullptr && elm >= 0 && static_cast<size_t>(elm) < line->elements.size();
 }
 
+bool boIsCurveType(uint8_t type) {
+  return type == kLiElmArc2p || type == kLiElmArc3p || type == kLiElmClothoid;
+}
+
 // Area and first moment of the ring of one part, relative to an origin.
 void vPartAreaMoments(const LiLine& line, LiElm part, double originX, double originY, double* area,
                       double* moment) {
@@ -27,21 +31,28 @@ void vPartAreaMoments(const LiLine& line, LiElm part, double originX, double ori
   *moment = 0.0;
   const LiElm end = LiElmGetPartEnd(&line, part);
   for (LiElm elm = part; elm < end; ++elm) {
+    // Every element before the part's end has a next point. Straights (and
+    // types drawn as straights) need only their two points; curves are made
+    // into pieces, which also falls back to a straight where a curve does not fit.
+    const size_t index = static_cast<size_t>(elm);
+    const LiElement& element = line.elements[index];
     double pieceArea, pieceMoment;
-    vLiPieceAreaMoments(PieceOf(line, static_cast<size_t>(elm)), originX, originY, &pieceArea,
-                        &pieceMoment);
+    if (boIsCurveType(element.uType)) {
+      vLiPieceAreaMoments(PieceOf(line, index), originX, originY, &pieceArea, &pieceMoment);
+    } else {
+      const LiElement& next = line.elements[index + 1];
+      vLiStraightAreaMoments({element.x, element.y}, {next.x, next.y}, originX, originY, &pieceArea,
+                             &pieceMoment);
+    }
     *area += pieceArea;
     *moment += pieceMoment;
   }
   // The straight that closes the ring.
-  LiPiece closing{};
-  closing.kind = LiPieceKind::kStraight;
   const LiElement& last = line.elements[static_cast<size_t>(end)];
   const LiElement& first = line.elements[static_cast<size_t>(part)];
-  closing.start = {last.x, last.y};
-  closing.end = {first.x, first.y};
   double pieceArea, pieceMoment;
-  vLiPieceAreaMoments(closing, originX, originY, &pieceArea, &pieceMoment);
+  vLiStraightAreaMoments({last.x, last.y}, {first.x, first.y}, originX, originY, &pieceArea,
+                         &pieceMoment);
   *area += pieceArea;
   *moment += pieceMoment;
 }

@@ -114,20 +114,15 @@ bool boStations(const SgHeightLine& upper, const SgHeightLine& lower, double fro
   return true;
 }
 
-void vAddRing(YgPolygon* polygon, const std::vector<Station>& stations, size_t a, size_t b) {
-  bool first = true;
-  double lastX = 0.0;
-  double lastZ = 0.0;
-  const auto add = [&](double x, double z) {
-    if (!first && x == lastX && z == lastZ) return;
-    if (first && iYgElmGetCount(polygon) > 0) {
-      LiLineAddPInvisible(polygon, x, z);
-    } else {
-      LiLineAddP2d(polygon, x, z);
-    }
-    first = false;
-    lastX = x;
-    lastZ = z;
+// Adds the ring over the stations a..b: the lower line forwards, the upper one
+// back. Its points are gathered in `ring` first and added to the polygon at
+// once; a ring after the first starts behind an invisible move.
+void vAddRing(YgPolygon* polygon, const std::vector<Station>& stations, size_t a, size_t b,
+              std::vector<ViPoint2d>* ring) {
+  ring->clear();
+  const auto add = [ring](double x, double z) {
+    if (!ring->empty() && x == ring->back().x && z == ring->back().y) return;
+    ring->push_back({x, z});
   };
   for (size_t k = a; k <= b; ++k) {
     if (k == a || k == b || stations[k].LowerVertex) add(stations[k].X, stations[k].Lower);
@@ -138,6 +133,12 @@ void vAddRing(YgPolygon* polygon, const std::vector<Station>& stations, size_t a
     // Within a ring the lines meet only where the upper one touches down.
     if (end ? s.Upper > s.Lower : s.UpperVertex) add(s.X, s.Upper);
   }
+  size_t first = 0;
+  if (iYgElmGetCount(polygon) > 0) {
+    LiLineAddPInvisible(polygon, (*ring)[0].x, (*ring)[0].y);
+    first = 1;
+  }
+  LiLineAddPoints2d(polygon, ring->data() + first, ring->size() - first);
 }
 
 }  // namespace
@@ -170,6 +171,8 @@ bool boLayerBandPolygon(const SgHeightLine& upper, const SgHeightLine& lower, co
   // goes on through that point, pinched, as the clipping leaves it.
   const auto gap = [&](size_t k) { return stations[k].Upper - stations[k].Lower; };
   size_t start = 0;
+  std::vector<ViPoint2d> ring;
+  ring.reserve(2 * stations.size());
   for (size_t k = 1; k < stations.size(); ++k) {
     const double d = gap(k);
     const double before = gap(k - 1);
@@ -177,7 +180,7 @@ bool boLayerBandPolygon(const SgHeightLine& upper, const SgHeightLine& lower, co
     const bool touch = d == 0.0 && before > 0.0 && !last && gap(k + 1) > 0.0;
     if (before < 0.0 || (before == 0.0 && d <= 0.0)) start = k;
     if (k > start && ((d <= 0.0 && !touch) || last)) {
-      if (d >= 0.0) vAddRing(polygon, stations, start, k);
+      if (d >= 0.0) vAddRing(polygon, stations, start, k, &ring);
       start = k;
     }
   }

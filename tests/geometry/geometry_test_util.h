@@ -19,6 +19,25 @@
 
 inline constexpr double kPi = std::numbers::pi;
 
+// Point of the standard clothoid x' = cos(s^2 / 2A^2), y' = sin(s^2 / 2A^2)
+// from its power series.
+inline ViPoint2d FresnelPoint(double s, double a) {
+  const double turn = s * s / (2.0 * a * a);
+  double x = 0.0, y = 0.0;
+  double power = 1.0;  // turn^k / k!
+  for (int k = 0; k < 80; ++k) {
+    if (k > 0) power *= turn / k;
+    const double term = s * power / (2 * k + 1);
+    const int sign = (k / 2) % 2 == 0 ? 1 : -1;
+    if (k % 2 == 0) {
+      x += sign * term;
+    } else {
+      y += sign * term;
+    }
+  }
+  return {x, y};
+}
+
 using OwnedLine = Owned<LiLine, vLiLineDelete>;
 using OwnedLines = Owned<LiLines, vLiLinesDelete>;
 using OwnedPolygon = Owned<YgPolygon, vYgPolygonDelete>;

@@ -232,6 +232,43 @@ TEST(LineElements, PolygonRingsDropTheirRepeatedFirstPoint) {
   EXPECT_NEAR(dLiLinePartLength(ring, 0, 0), 12.0, 1e-12);
 }
 
+// The area of a ring sums the same terms in the same order as one made of
+// the pieces of its elements, on straights, both kinds of arc, a clothoid,
+// an arc whose radius is too short for its chord, and behind invisible moves.
+TEST(LineElements, AreaOfStraightsAndCurvesMatchesTheSumOverPieces) {
+  OwnedLine line(MixedLine());
+  vLiLineSetPolygon(line, true);
+  const ViPoint2d end = FresnelPoint(50.0, 100.0);
+  const LiElm clothoid = LiLineAddP(line, 40.0, 30.0, 0.0);
+  LiLineAddP(line, 40.0 + end.x, 30.0 + end.y, 0.0);
+  ASSERT_TRUE(boLiElmSetClotoide(line, clothoid, 0.0, 200.0, 100.0));
+  const LiElm tooShort = LiLineAddP(line, 60.0, 40.0, 0.0);
+  LiLineAddP(line, 70.0, 35.0, 0.0);
+  line->elements[static_cast<size_t>(tooShort)].uType = kLiElmArc2p;
+  line->elements[static_cast<size_t>(tooShort)].dParam[0] = 0.5;
+
+  const ViPoint2d origin{line->elements[0].x, line->elements[0].y};
+  double area = 0.0, moment = 0.0;
+  for (LiElm part = 0; part != kLiNoElm; part = LiElmGetNext(line, LiElmGetPartEnd(line, part))) {
+    const LiElm partEnd = LiElmGetPartEnd(line, part);
+    double partArea = 0.0, partMoment = 0.0, a, m;
+    for (LiElm elm = part; elm <= partEnd; ++elm) {
+      // The last element closes the ring by a straight back to the part's start.
+      LiElement from = line->elements[static_cast<size_t>(elm)];
+      const LiElement* to = line->elements.data() + (elm < partEnd ? elm + 1 : part);
+      if (elm == partEnd) from.uType = kLiElmStraight;
+      vLiPieceAreaMoments(LiPieceMake(from, to), origin.x, origin.y, &a, &m);
+      partArea += a;
+      partMoment += m;
+    }
+    area += partArea;
+    moment += partMoment;
+  }
+  double centroidX;
+  EXPECT_EQ(dLiLineArea(line, &centroidX), area);
+  EXPECT_EQ(centroidX, origin.x + moment / area);
+}
+
 TEST(LineContainer, IdsOrderMovesAndUserData) {
   LiLines* lines = LiLinesCreate(24, 4);
   LiLine* five = LiLinesCreate2dLine(lines, 5);
