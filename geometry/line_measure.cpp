@@ -1,6 +1,9 @@
 #include "geometry/line_measure.h"
 
 #include <cmath>
+#include <memory>
+
+#include "geometry/line_pieces.h"
 
 namespace {
 
@@ -57,21 +60,20 @@ void vPartAreaMoments(const LiLine& line, LiElm part, double originX, double ori
   *moment += pieceMoment;
 }
 
-// Finds the piece that holds `length` and the length left in it.
+// Finds the piece that holds `length` and the length left in it, in the
+// pieces kept with the line: a plan line is asked for a point at every
+// section, and making its pieces again from the start for each would fit
+// its clothoids anew every time.
 bool boFindPieceAt(const LiLine* line, double length, LiPiece* found, double* along) {
   if (line == nullptr || line->elements.empty() || length < -kLengthTolerance) return false;
-  double start = 0.0;
-  bool any = false;
-  for (size_t i = 0; i < line->elements.size(); ++i) {
-    const LiPiece piece = PieceOf(*line, i);
-    if (piece.kind == LiPieceKind::kNone || !(piece.dLength > 0.0)) continue;
-    *found = piece;
-    *along = length - start;
-    any = true;
-    if (start + piece.dLength >= length) return true;
-    start += piece.dLength;
+  const std::shared_ptr<const LiLinePieces> table = LiLineGetPieces(*line);
+  if (!table->pieces.empty()) {
+    const LiPiece* piece;
+    if (!boLiLinePiecesFind(*table, length, &piece, along)) return false;
+    *found = *piece;
+    if (!line->bo3d) found->dStartZ = found->dEndZ = dLiLineGetHeight(line);
+    return true;
   }
-  if (any) return length <= start + kLengthTolerance;
   // A line without length: its first point.
   if (length > kLengthTolerance) return false;
   *found = PieceOf(*line, 0);

@@ -42,8 +42,10 @@ std::shared_ptr<const LiLinePieces> LiLineGetPieces(const LiLine& line) {
   return line.pieces;
 }
 
-bool boLiLinePiecesPointAt(const LiLinePieces& table, double length, ViPoint2d* point) {
-  if (table.pieces.empty() || length < -kLengthTolerance) return false;
+bool boLiLinePiecesFind(const LiLinePieces& table, double length, const LiPiece** piece,
+                        double* along) {
+  // Written so that a length that is no number is refused too.
+  if (table.pieces.empty() || !(length >= -kLengthTolerance)) return false;
   const size_t count = table.pieces.size();
   size_t low = 0;
   size_t high = count;  // the first piece that reaches `length` lies in [low, high]
@@ -60,8 +62,17 @@ bool boLiLinePiecesPointAt(const LiLinePieces& table, double length, ViPoint2d* 
       length > table.starts[index] + table.pieces[index].dLength + kLengthTolerance) {
     return false;
   }
+  *piece = &table.pieces[index];
+  *along = length - table.starts[index];
+  return true;
+}
+
+bool boLiLinePiecesPointAt(const LiLinePieces& table, double length, ViPoint2d* point) {
+  const LiPiece* piece;
+  double along;
+  if (!boLiLinePiecesFind(table, length, &piece, &along)) return false;
   double direction;
   double z;
-  vLiPiecePointAt(table.pieces[index], length - table.starts[index], point, &direction, &z);
+  vLiPiecePointAt(*piece, along, point, &direction, &z);
   return true;
 }

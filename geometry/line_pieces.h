@@ -29,8 +29,14 @@ struct LiLinePieces {
 // a line that two threads read at once.
 std::shared_ptr<const LiLinePieces> LiLineGetPieces(const LiLine& line);
 
-// The plan point at `length` along the line: on the first piece that
-// reaches that length, as the line's own measure takes it. A length up to
-// 0.001 beyond the end is taken at the end; further out, below -0.001 or
-// on a line without pieces the result is false.
+// The piece that holds `length` along the line, found by halving, and the
+// length left in it: the first piece that reaches that length, as the
+// line's own measure takes it. A length up to 0.001 beyond the end is taken
+// on the last piece; further out, below -0.001 or on a line without pieces
+// the result is false.
+bool boLiLinePiecesFind(const LiLinePieces& table, double length, const LiPiece** piece,
+                        double* along);
+
+// The plan point at `length` along the line, on the piece that
+// boLiLinePiecesFind gives.
 bool boLiLinePiecesPointAt(const LiLinePieces& table, double length, ViPoint2d* point);

@@ -133,6 +133,24 @@ void vRmLayerSetFromLine(RmLayer* layer, const LiLine* line) {
   }
 }
 
+namespace {
+
+// Whether an arc ends in a point of the layer that has a height.
+bool boHasArcs(const RmLayer* layer) {
+  for (const RmPoint* point = RmPointsGetFirst(layer); point; point = point->Next) {
+    if (boRmPointHasHeight(point) && fRmPointGetArcRadius(point) != 0.0f) return true;
+  }
+  return false;
+}
+
+void vAddPointsWithHeight(const RmLayer* layer, ViExtent* extent) {
+  for (const RmPoint* point = RmPointsGetFirst(layer); point; point = point->Next) {
+    if (boRmPointHasHeight(point)) vViExtentAddPoint(extent, point->X, point->Z);
+  }
+}
+
+}  // namespace
+
 bool boRmSectionLayerExtent(const RmSection* section, ViExtent* extent, uint32_t type) {
   if (!extent) return false;
   vViExtentClear(extent);
@@ -141,14 +159,14 @@ bool boRmSectionLayerExtent(const RmSection* section, ViExtent* extent, uint32_t
     if (layer->Id.Type != type) continue;
     ViExtent own;
     vViExtentClear(&own);
-    if (LiLine* line = RmLayerToLine(layer, true)) {
+    // Only arcs may bulge beyond the points; a layer of a single valid
+    // point makes no line, and the point still counts.
+    LiLine* line = boHasArcs(layer) ? RmLayerToLine(layer, true) : nullptr;
+    if (line) {
       vLiLineGetExtent(line, &own);
       vLiLineDelete(&line);
     } else {
-      // A layer of a single valid point makes no line; the point still counts.
-      for (const RmPoint* point = RmPointsGetFirst(layer); point; point = point->Next) {
-        if (boRmPointHasHeight(point)) vViExtentAddPoint(&own, point->X, point->Z);
-      }
+      vAddPointsWithHeight(layer, &own);
     }
     if (boViExtentIsEmpty(own)) continue;
     vViExtentAddExtent(extent, own);
